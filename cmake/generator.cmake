@@ -1,0 +1,41 @@
+# The generator: a program of the host that writes the kernels' sources during the build.
+
+file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
+  ${PROJECT_SOURCE_DIR}/gen/*.cpp
+  ${PROJECT_SOURCE_DIR}/networks/*.cpp
+  ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp)
+list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
+
+add_executable(zulgen-generate gen/main.cpp ${ZULGEN_CODEGEN_SOURCES})
+target_include_directories(zulgen-generate PRIVATE ${PROJECT_SOURCE_DIR})
+target_link_libraries(zulgen-generate PRIVATE zulgen_warnings)
+
+# The files that every family's kernels are spread over.
+set(ZULGEN_SHARDS dft_complex_32fc=4)
+set(ZULGEN_ORDER "" CACHE STRING
+  "Schedule all kernels in this order instead of their own, for measuring (\"bisect 3\")")
+
+set(ZULGEN_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
+file(MAKE_DIRECTORY ${ZULGEN_GENERATED_DIR})
+set(ZULGEN_EXPORTS ${ZULGEN_GENERATED_DIR}/zulgens8.map)
+set(ZULGEN_KERNEL_SOURCES)
+set(arguments --out ${ZULGEN_GENERATED_DIR})
+foreach(shards IN LISTS ZULGEN_SHARDS)
+  list(APPEND arguments --shards ${shards})
+  string(REGEX MATCH "^(.*)=(.*)$" match ${shards})
+  math(EXPR last "${CMAKE_MATCH_2} - 1")
+  foreach(shard RANGE ${last})
+    list(APPEND ZULGEN_KERNEL_SOURCES ${ZULGEN_GENERATED_DIR}/${CMAKE_MATCH_1}.${shard}.cpp)
+  endforeach()
+endforeach()
+if(ZULGEN_ORDER)
+  list(APPEND arguments --order ${ZULGEN_ORDER})
+endif()
+
+# Only files that change are written, so that a change in one family compiles that family alone.
+add_custom_command(
+  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_EXPORTS}
+  COMMAND zulgen-generate ${arguments}
+  DEPENDS zulgen-generate
+  COMMENT "Generating the kernels"
+  VERBATIM)

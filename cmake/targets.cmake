@@ -1,0 +1,42 @@
+# How code for the two machines is compiled: the generator runs on the host, everything else is
+# 32-bit code whose arithmetic is SSE, with every rounding where the source has it.
+
+add_library(zulgen_warnings INTERFACE)
+target_compile_options(zulgen_warnings INTERFACE -Wall -Wextra)
+
+add_library(zulgen_m32 INTERFACE)
+target_compile_options(zulgen_m32 INTERFACE -m32 -msse2 -mfpmath=sse -ffp-contract=off)
+target_link_options(zulgen_m32 INTERFACE -m32)
+
+# Code inside the shared libraries. A caller may come with a stack that is aligned on 4 bytes only.
+add_library(zulgen_library_code INTERFACE)
+target_compile_options(zulgen_library_code INTERFACE
+  -O2 -fPIC -fomit-frame-pointer -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables
+  -fno-stack-protector -mincoming-stack-boundary=2)
+target_include_directories(zulgen_library_code INTERFACE ${PROJECT_SOURCE_DIR}/include)
+target_link_libraries(zulgen_library_code INTERFACE zulgen_m32 zulgen_warnings)
+
+# Kernels: the order of the statements and of their results' registers is the generator's work. No
+# vectoriser touches them; these options have to stand behind -O2, which would turn them on.
+add_library(zulgen_kernel_code INTERFACE)
+target_compile_options(zulgen_kernel_code INTERFACE
+  -fno-tree-vectorize -fno-tree-slp-vectorize
+  $<$<CXX_COMPILER_ID:GNU>:-flive-range-shrinkage -frename-registers>)
+target_link_libraries(zulgen_kernel_code INTERFACE zulgen_library_code)
+
+# zulgen_shared_library(TARGET name NAME file-name EXPORTS version-script): a shared library that
+# needs nothing but the C libraries it is told, and has no data that could be written.
+function(zulgen_shared_library)
+  cmake_parse_arguments(ARG "" "TARGET;NAME;EXPORTS" "SOURCES;LIBRARIES" ${ARGN})
+  add_library(${ARG_TARGET} SHARED ${ARG_SOURCES})
+  set_target_properties(${ARG_TARGET} PROPERTIES
+    OUTPUT_NAME ${ARG_NAME} VERSION 6.1 SOVERSION 6.1
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    LINK_DEPENDS ${ARG_EXPORTS})
+  target_include_directories(${ARG_TARGET} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
+  # No start files and no default libraries: they would bring in writable data and the C++ runtime.
+  target_link_options(${ARG_TARGET} PRIVATE
+    -m32 -nostdlib -Wl,--version-script=${ARG_EXPORTS}
+    -Wl,-z,defs,-z,text,-z,relro,-z,now,-z,noexecstack)
+  target_link_libraries(${ARG_TARGET} PRIVATE ${ARG_LIBRARIES} gcc)
+endfunction()

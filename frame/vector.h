@@ -1,0 +1,57 @@
+// The vector operations that generated kernels are written in. Arithmetic is the operators of the
+// vector types; here are loads, stores, constants and lane moves, each one instruction.
+#pragma once
+
+#include <emmintrin.h>
+
+namespace zulgen {
+
+using F4 = __m128;
+using D2 = __m128d;
+
+inline F4 allF4(float x) { return _mm_set1_ps(x); }
+inline F4 lanesF4(float a, float b, float c, float d) { return _mm_setr_ps(a, b, c, d); }
+
+// Access to whole vectors of an array that is aligned on 16 bytes, and of any array.
+struct Aligned {
+  static F4 load(const float* p) { return _mm_load_ps(p); }
+  static void store(float* p, F4 v) { _mm_store_ps(p, v); }
+};
+struct Unaligned {
+  static F4 load(const float* p) { return _mm_loadu_ps(p); }
+  static void store(float* p, F4 v) { _mm_storeu_ps(p, v); }
+};
+
+// Half a vector, whatever the alignment; the upper half of the result is zero.
+inline F4 load_low(const float* p) {
+  return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+}
+inline void store_low(float* p, F4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+inline void store_high(float* p, F4 v) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), v); }
+
+// Lanes a and b of `x`, then lanes c and d of `y`.
+template <int a, int b, int c, int d>
+F4 shuffle(F4 x, F4 y) {
+  if (a == 0 && b == 1 && c == 0 && d == 1)
+    return _mm_castsi128_ps(_mm_unpacklo_epi64(_mm_castps_si128(x), _mm_castps_si128(y)));
+  if (a == 2 && b == 3 && c == 2 && d == 3)
+    return _mm_castsi128_ps(_mm_unpackhi_epi64(_mm_castps_si128(x), _mm_castps_si128(y)));
+  return _mm_shuffle_ps(x, y, _MM_SHUFFLE(d, c, b, a));
+}
+
+// (x0, y0, x1, y1) and (x2, y2, x3, y3). The integer form runs on more ports than unpcklps.
+inline F4 unpack_low(F4 x, F4 y) {
+  return _mm_castsi128_ps(_mm_unpacklo_epi32(_mm_castps_si128(x), _mm_castps_si128(y)));
+}
+inline F4 unpack_high(F4 x, F4 y) {
+  return _mm_castsi128_ps(_mm_unpackhi_epi32(_mm_castps_si128(x), _mm_castps_si128(y)));
+}
+
+// Negates the lanes marked 1.
+template <int a, int b, int c, int d>
+F4 flip_signs(F4 x) {
+  return _mm_xor_ps(
+      x, _mm_setr_ps(a ? -0.0f : 0.0f, b ? -0.0f : 0.0f, c ? -0.0f : 0.0f, d ? -0.0f : 0.0f));
+}
+
+}  // namespace zulgen

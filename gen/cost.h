@@ -1,0 +1,20 @@
+// A model of what a graph costs on a core that adds and shuffles on two ports and does all vector
+// work on three. It serves to choose between arrangements of the same arithmetic.
+#pragma once
+
+#include "gen/graph.h"
+
+namespace gen {
+
+struct VectorOperations {
+  int additions = 0, multiplications = 0, moves = 0, sign_flips = 0;
+};
+
+// Of a graph whose lane moves are single instructions. Loads and stores are left out.
+VectorOperations count_vector_operations(const Graph& graph);
+
+// The least number of cycles that these operations keep the ports busy, in sixths; between graphs
+// with equal bounds, the one with fewer operations is cheaper by less than one.
+double port_cost(const VectorOperations& operations);
+
+}  // namespace gen

@@ -1,0 +1,308 @@
+#include "gen/emit.h"
+
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+
+#include "gen/moves.h"
+#include "gen/schedule.h"
+
+namespace gen {
+namespace {
+
+// "cos 1/12" becomes cos_1_12, "1/2" becomes c_1_2.
+std::string identifier(const Number& number) {
+  std::string result = number.name();
+  for (char& c : result) {
+    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+  }
+  if (std::isdigit(static_cast<unsigned char>(result[0]))) result = "c_" + result;
+  return result;
+}
+
+bool is_whole(const Number& number) {
+  return number.magnitude() == Number(0) || number.magnitude() == Number(1);
+}
+
+const char* type_name(const Node& node) {
+  const bool single = node.precision == Precision::kSingle;
+  if (node.lane_count == 1) return single ? "float" : "double";
+  return single ? "F4" : "D2";
+}
+
+std::string list(const std::vector<std::string>& items) {
+  std::string result;
+  for (const std::string& item : items) result += (result.empty() ? "" : ", ") + item;
+  return result;
+}
+
+// One store: consecutive elements of the destination out of one node.
+struct Store {
+  const char* function;  // empty for a scalar
+  int element, count;
+  NodeId node;
+};
+
+// Whole vectors where all lanes go side by side to a place aligned as the array is, else halves.
+std::vector<Store> plan_stores(const Graph& graph) {
+  std::map<int, Lane> outputs;
+  for (const Output& out : graph.outputs()) outputs[out.element] = out.from;
+  const auto run = [&](int element, const Lane& first, int count) {
+    for (int i = 0; i < count; ++i) {
+      const auto at = outputs.find(element + i);
+      if (at == outputs.end() || at->second != Lane{first.node, first.index + i}) return false;
+    }
+    return true;
+  };
+  std::vector<Store> stores;
+  for (auto at = outputs.begin(); at != outputs.end();) {
+    const auto [element, lane] = *at;
+    const int width = graph[lane.node].lane_count, half = std::max(1, width / 2);
+    Store store{"", element, 1, lane.node};
+    if (width > 1) {
+      if (lane.index == 0 && element % width == 0 && run(element, lane, width)) {
+        store.function = "store";
+        store.count = width;
+      } else if (lane.index % half == 0 && run(element, lane, half)) {
+        store.function = lane.index == 0 ? "store_low" : "store_high";
+        store.count = half;
+      } else {
+        throw std::logic_error("an output that no store can take");
+      }
+    }
+    stores.push_back(store);
+    std::advance(at, store.count);
+  }
+  return stores;
+}
+
+class BodyWriter {
+ public:
+  BodyWriter(const Graph& graph, const BodyStyle& style)
+      : graph_(graph), style_(style), names_(graph.size()) {
+    for (const Store& store : plan_stores(graph)) stores_[store.node].push_back(store);
+    const std::vector<bool> live = graph.live_nodes();
+    for (NodeId id = 0; id < graph.size(); ++id) {
+      if (!live[id] || !is_load(graph, id) || graph[id].op == Op::kZero) continue;
+      // The elements of a vector count as one load, so leave out the inputs it is made of.
+      if (graph[id].op == Op::kInput && graph[id].lane_count == 1 && is_part_of_vector(id, live)) {
+        continue;
+      }
+      for (int element : elements(id)) ++loads_left_[element];
+    }
+  }
+
+  std::string write(const std::vector<NodeId>& order) {
+    for (NodeId id : order) {
+      for (NodeId operand : graph_.operands(id)) {
+        if (is_load(graph_, operand)) define(operand);
+      }
+      define(id);
+      for (const Store& store : stores_[id]) pending_.push_back(store);
+      write_stores();
+    }
+    for (const auto& [id, stores] : stores_) {
+      if (!is_load(graph_, id)) continue;
+      define(id);
+      pending_.insert(pending_.end(), stores.begin(), stores.end());
+    }
+    write_stores();
+    if (!pending_.empty()) throw std::logic_error("a store waits for a load that never comes");
+    return text_.str();
+  }
+
+ private:
+  bool is_part_of_vector(NodeId input, const std::vector<bool>& live) const {
+    for (NodeId id = 0; id < graph_.size(); ++id) {
+      if (!live[id] || graph_[id].op != Op::kLanes) continue;
+      const std::vector<NodeId> operands = graph_.operands(id);
+      if (std::find(operands.begin(), operands.end(), input) != operands.end()) return true;
+    }
+    return false;
+  }
+
+  // The elements of the source that a load brings in.
+  std::vector<int> elements(NodeId id) const {
+    if (graph_[id].op == Op::kInput) return {graph_[id].element};
+    const MoveForm form = *single_move(graph_, id);
+    const int count = graph_[id].lane_count / (form.move == Move::kLoad ? 1 : 2);
+    std::vector<int> result;
+    for (int i = 0; i < count; ++i) result.push_back(form.element + i);
+    return result;
+  }
+
+  void define(NodeId id) {
+    if (!names_[id].empty()) return;
+    const Node& node = graph_[id];
+    const std::string value = expression(id);
+    if (is_load(graph_, id) && node.op != Op::kZero) {
+      const std::vector<int> loaded = elements(id);
+      const bool half = node.lane_count > static_cast<int>(loaded.size());
+      names_[id] = style_.source + std::to_string(loaded[0]) + (half ? "_low" : "");
+      for (int element : loaded) --loads_left_[element];
+    } else {
+      const std::string prefix = node.op == Op::kZero ? "zero" : graph_.stages()[node.stage].name;
+      names_[id] = prefix + std::to_string(name_counts_[prefix]++);
+    }
+    text_ << "  const " << type_name(node) << " " << names_[id] << " = " << value << ";\n";
+  }
+
+  std::string expression(NodeId id) {
+    const Node& node = graph_[id];
+    const auto name = [&](NodeId operand) { return names_[operand]; };
+    switch (node.op) {
+      case Op::kInput:
+        return style_.source + "[" + std::to_string(node.element) + "]";
+      case Op::kZero:
+        return node.precision == Precision::kSingle ? "0.0f" : "0.0";
+      case Op::kLanes:
+        return move(id);
+      case Op::kFlipSigns: {
+        if (node.lane_count == 1) return "-" + name(node.a);
+        std::vector<std::string> flips;
+        for (int lane = 0; lane < node.lane_count; ++lane) {
+          flips.push_back(node.flips >> lane & 1 ? "1" : "0");
+        }
+        return "flip_signs<" + list(flips) + ">(" + name(node.a) + ")";
+      }
+      case Op::kAdd:
+        return name(node.a) + " + " + name(node.b);
+      case Op::kSub:
+        return name(node.a) + " - " + name(node.b);
+      case Op::kMul:
+        return factor(node) + " * " + name(node.a);
+      case Op::kScale:
+        return style_.scale + " * " + name(node.a);
+      case Op::kWiden:
+        return "static_cast<double>(" + name(node.a) + ")";
+      case Op::kRound:
+        return "static_cast<float>(" + name(node.a) + ")";
+    }
+    return "";
+  }
+
+  std::string factor(const Node& node) const {
+    std::vector<std::string> lanes;
+    for (const Number& number : graph_.factors(node)) lanes.push_back(constant(node, number));
+    if (node.lane_count == 1) return lanes[0];
+    if (std::all_of(lanes.begin(), lanes.end(), [&](const auto& l) { return l == lanes[0]; })) {
+      return std::string("all") + type_name(node) + "(" + lanes[0] + ")";
+    }
+    return std::string("lanes") + type_name(node) + "(" + list(lanes) + ")";
+  }
+
+  static std::string constant(const Node& node, const Number& number) {
+    if (is_whole(number)) {
+      return node.precision == Precision::kSingle ? float_literal(number.value())
+                                                  : double_literal(number.value());
+    }
+    return (number.is_negative() ? "-" : "") + identifier(number);
+  }
+
+  std::string move(NodeId id) const {
+    const auto form = single_move(graph_, id);
+    if (!form) throw std::logic_error("a lane move that takes several instructions");
+    const std::string memory = style_.memory_policy ? "Memory::" : "";
+    const std::string address = style_.source + " + " + std::to_string(form->element);
+    const auto call = [&](const std::string& function) {
+      return function + "(" + names_[form->a] + ", " + names_[form->b] + ")";
+    };
+    switch (form->move) {
+      case Move::kLoad:
+        return memory + "load(" + address + ")";
+      case Move::kLoadLow:
+        return "load_low(" + address + ")";
+      case Move::kUnpackLow:
+        return call("unpack_low");
+      case Move::kUnpackHigh:
+        return call("unpack_high");
+      case Move::kShuffle:
+        break;
+    }
+    std::vector<std::string> indices;
+    for (int lane = 0; lane < graph_[id].lane_count; ++lane) {
+      indices.push_back(std::to_string(form->indices[lane]));
+    }
+    return call("shuffle<" + list(indices) + ">");
+  }
+
+  void write_stores() {
+    const auto blocked = [&](const Store& store) {
+      for (int i = 0; i < store.count; ++i) {
+        if (loads_left_[store.element + i] > 0) return true;
+      }
+      return false;
+    };
+    std::vector<Store> still_pending;
+    for (const Store& store : pending_) {
+      if (blocked(store)) {
+        still_pending.push_back(store);
+        continue;
+      }
+      const std::string address = style_.destination + " + " + std::to_string(store.element);
+      if (store.function[0] == '\0') {
+        text_ << "  " << style_.destination << "[" << store.element << "] = ";
+        text_ << names_[store.node] << ";\n";
+      } else {
+        const bool whole = store.function == std::string("store");
+        text_ << "  " << (whole && style_.memory_policy ? "Memory::" : "") << store.function << "("
+              << address << ", " << names_[store.node] << ");\n";
+      }
+    }
+    pending_ = std::move(still_pending);
+  }
+
+  const Graph& graph_;
+  const BodyStyle& style_;
+  std::vector<std::string> names_;
+  std::map<std::string, int> name_counts_;
+  std::map<NodeId, std::vector<Store>> stores_;
+  std::map<int, int> loads_left_;  // by element of the source
+  std::vector<Store> pending_;
+  std::ostringstream text_;
+};
+
+}  // namespace
+
+std::string emit_constants(const Graph& graph) {
+  std::map<std::string, std::string> definitions;
+  const std::vector<bool> live = graph.live_nodes();
+  for (NodeId id = 0; id < graph.size(); ++id) {
+    const Node& node = graph[id];
+    if (!live[id] || node.op != Op::kMul) continue;
+    const bool single = node.precision == Precision::kSingle;
+    for (const Number& number : graph.factors(node)) {
+      if (is_whole(number)) continue;
+      const Quad value = number.magnitude().value();
+      definitions[identifier(number)] =
+          std::string("  constexpr ") + (single ? "float " : "double ") + identifier(number) +
+          " = " + (single ? float_literal(value) : double_literal(value)) + ";\n";
+    }
+  }
+  std::string text;
+  for (const auto& [name, definition] : definitions) text += definition;
+  return text;
+}
+
+std::string emit_body(const Graph& graph, const std::vector<NodeId>& order,
+                      const BodyStyle& style) {
+  return BodyWriter(graph, style).write(order);
+}
+
+void write_if_changed(const std::string& path, const std::string& text) {
+  {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream known;
+    known << file.rdbuf();
+    if (file && known.str() == text) return;
+  }
+  std::ofstream file(path, std::ios::binary);
+  file << text;
+  if (!file.flush()) throw std::runtime_error("can't write " + path);
+}
+
+}  // namespace gen

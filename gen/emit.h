@@ -1,0 +1,31 @@
+// Writes a scheduled graph as C++ statements, over the vector operations of frame/vector.h.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "gen/graph.h"
+
+namespace gen {
+
+// How the statements reach memory and what they call things.
+struct BodyStyle {
+  std::string source = "x";       // pointer to the elements read
+  std::string destination = "y";  // pointer to the elements written; may equal the source
+  std::string scale = "s";        // the factor, spread over the lanes
+  // The kernel has aligned and unaligned access to memory, by a template parameter `Memory`.
+  bool memory_policy = true;
+};
+
+// The constants that the graph uses, one `constexpr` definition a line.
+std::string emit_constants(const Graph& graph);
+
+// The operations in the given order, with every load directly before its first use and every store
+// directly behind its value, but never before a load of the same elements: source and destination
+// may be one array.
+std::string emit_body(const Graph& graph, const std::vector<NodeId>& order, const BodyStyle& style);
+
+// Writes `text` unless the file holds it already, so that what has not changed isn't rebuilt.
+void write_if_changed(const std::string& path, const std::string& text);
+
+}  // namespace gen

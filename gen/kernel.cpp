@@ -1,0 +1,89 @@
+#include "gen/kernel.h"
+
+#include <cmath>
+#include <sstream>
+
+#include "gen/count.h"
+#include "gen/emit.h"
+#include "gen/moves.h"
+#include "gen/rewrite.h"
+
+namespace gen {
+namespace {
+
+// What stands above a kernel: how it is decomposed, what it costs, what its names mean.
+std::string heading(const Kernel& kernel, const Graph& graph) {
+  const Counts counts = count_operations(graph);
+  std::ostringstream text;
+  text << "// " << kernel.name << ": " << kernel.recipe << "\n";
+  text << "//   " << counts.additions << " additions, " << counts.multiplications
+       << " multiplications; order: " << to_string(kernel.order) << "\n";
+  for (const Stage& stage : graph.stages()) {
+    if (!stage.description.empty()) {
+      text << "//   " << stage.name << ": " << stage.description << "\n";
+    }
+  }
+  return text.str();
+}
+
+std::string scale_table(const Kernel& kernel) {
+  const bool single = kernel.precision == Precision::kSingle;
+  const auto literal = single ? float_literal : double_literal;
+  const std::string by_n = literal(one_over_n(kernel.length)), one = literal(1);
+  const bool forward = kernel.scale_rule == ScaleRule::kForward;
+  return "  static constexpr auto kScale = scale_factors(" + (forward ? by_n : one) + ", " +
+         (forward ? one : by_n) + ", " + literal(one_over_sqrt_n(kernel.length)) + ");\n";
+}
+
+}  // namespace
+
+std::string Kernel::twin_name() const { return "owng" + name.substr(4) + "_unaligned"; }
+
+Graph lowered(const Graph& graph, int source_elements) {
+  return synthesize_shuffles(load_vectors(absorb_sign_flips(graph), source_elements));
+}
+
+Quad one_over_n(int n) { return 1.0 / n; }
+Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
+
+std::string emit_kernel(const Kernel& kernel) {
+  const Graph graph = kernel.graph();
+  const Graph code = lowered(graph, kernel.source_elements);
+  const std::string element = kernel.precision == Precision::kSingle ? "float" : "double";
+  const bool vectors = kernel.has_twin;
+  const std::string arguments = "(const " + kernel.source_type + "* source, " +
+                                kernel.destination_type + "* destination, zulgScaleFlag flag)";
+  const std::string body_name = kernel.name.substr(4);
+  const std::string scale = vectors ? (element == "float" ? "allF4(" : "allD2(") : "(";
+
+  std::ostringstream text;
+  text << heading(kernel, graph);
+  text << "namespace {\n";
+  if (vectors) text << "template <class Memory>\n";
+  text << "inline zulgResult " << body_name << arguments << " {\n";
+  text << scale_table(kernel) << emit_constants(code);
+  text << "  const zulgResult result = check_arguments(source, destination, flag);\n";
+  text << "  if (result != ZULG_OK) return result;\n";
+  text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
+  text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
+  text << "  const auto s = " << scale << "kScale.by_flag[flag]);\n\n";
+  BodyStyle style;
+  style.memory_policy = vectors;
+  text << emit_body(code, schedule(code, kernel.order), style);
+  text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
+
+  if (vectors) {
+    text << "ZULGEN_TWIN zulgResult " << kernel.twin_name() << arguments << " {\n";
+    text << "  return " << body_name << "<Unaligned>(source, destination, flag);\n}\n\n";
+  }
+  text << "ZULGEN_EXPORT zulgResult " << kernel.name << arguments << " {\n";
+  if (vectors) {
+    text << "  if (is_misaligned(source, destination)) {\n";
+    text << "    return " << kernel.twin_name() << "(source, destination, flag);\n  }\n";
+  }
+  text << "  return " << body_name << (vectors ? "<Aligned>" : "")
+       << "(source, destination, flag);\n}\n";
+  return text.str();
+}
+
+}  // namespace gen

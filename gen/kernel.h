@@ -1,0 +1,48 @@
+// One row of the manifest: a kernel, and everything that lists of kernels are made from.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "gen/graph.h"
+#include "gen/schedule.h"
+
+namespace gen {
+
+// Which flag selects the factor 1 / N.
+enum class ScaleRule { kForward, kInverse };
+
+struct Kernel {
+  std::string name;    // the exported function
+  std::string family;  // the source files that it goes to
+  std::string recipe;  // the decomposition, in the notation of the family's table
+  int length = 0;      // N
+  Precision precision = Precision::kSingle;
+  ScaleRule scale_rule = ScaleRule::kForward;
+
+  // The C types of what the pointers point to, and how many elements of `precision` are there.
+  std::string source_type, destination_type;
+  int source_elements = 0, destination_elements = 0;
+
+  // Whether there is a second body for arrays that aren't aligned on 16 bytes.
+  bool has_twin = false;
+  Order order;
+  // The data flow, as the network gives it.
+  std::function<Graph()> graph;
+
+  // The internal function that holds the second body.
+  std::string twin_name() const;
+};
+
+// The graph in the form that is written out: sign flips in constants, lane moves as instructions.
+Graph lowered(const Graph& graph, int source_elements);
+
+// The kernel's functions as C++.
+std::string emit_kernel(const Kernel& kernel);
+
+// The scale factors of a length N, computed as the kernels store them.
+Quad one_over_n(int n);
+Quad one_over_sqrt_n(int n);
+
+}  // namespace gen

@@ -1,0 +1,55 @@
+// Exact constants of the networks: numbers known to 113 bits, rounded once, when they are printed.
+#pragma once
+
+#include <string>
+
+namespace gen {
+
+using Quad = __float128;
+
+// A real constant and the name under which generated code shows it. Two numbers are the same
+// constant exactly if their values are, bit for bit; angles are therefore reduced to one octant
+// before any cosine or sine is taken, so that equal magnitudes come out equal.
+class Number {
+ public:
+  Number(int value);  // NOLINT: an integer is a number
+  Number(Quad value, std::string name) : value_(value), name_(std::move(name)) {}
+
+  Quad value() const { return value_; }
+  // The magnitude's name, such as "cos 1/12" (of 1/12 turn) or "1/2".
+  const std::string& name() const { return name_; }
+
+  bool is_negative() const { return value_ < 0; }
+  Number magnitude() const { return is_negative() ? -*this : *this; }
+  Number operator-() const { return Number(-value_, name_); }
+  // Equal as constants of a kernel: +0 and -0 differ.
+  friend bool operator==(const Number& a, const Number& b);
+
+ private:
+  Quad value_;
+  std::string name_;
+};
+
+// The exact product, named after its factors.
+Number operator*(const Number& a, const Number& b);
+
+// numerator / denominator.
+Number ratio(int numerator, int denominator);
+
+// Cosine and sine of numerator / denominator of a full turn.
+Number cos_of_turn(long numerator, long denominator);
+Number sin_of_turn(long numerator, long denominator);
+
+// A point of the complex plane, such as a twiddle factor.
+struct ComplexNumber {
+  Number re, im;
+};
+
+// exp(2 pi i numerator / denominator).
+ComplexNumber unit_root(long numerator, long denominator);
+
+// The decimal text that reads back as the float, or double, nearest to the value.
+std::string float_literal(Quad value);
+std::string double_literal(Quad value);
+
+}  // namespace gen

@@ -1,0 +1,54 @@
+#include "gen/precision.h"
+
+#include "gen/rewrite.h"
+
+namespace gen {
+
+Graph widen_products(const Graph& old) {
+  const std::vector<int> uses = use_counts(old);
+  std::vector<bool> is_double(old.size());
+
+  // The copy of an operand in the precision in which its reader takes it.
+  const auto read = [&](Graph& graph, const NewValues& new_value, NodeId id, Precision wanted) {
+    Value value = new_value[id];
+    const bool is_sum = old[id].op == Op::kAdd || old[id].op == Op::kSub;
+    if (is_double[id] && is_sum && uses[id] > 1) value = graph.round(value);
+    const Precision precision = graph[value.node].precision;
+    if (precision == wanted) return value;
+    return wanted == Precision::kDouble ? graph.widen(value) : graph.round(value);
+  };
+
+  return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
+    const Node& node = old[id];
+    switch (node.op) {
+      case Op::kMul: {
+        is_double[id] = true;
+        Value operand = read(graph, new_value, node.a, Precision::kDouble);
+        const bool is_sum = old[node.a].op == Op::kAdd || old[node.a].op == Op::kSub;
+        if (is_double[node.a] && is_sum && uses[node.a] == 1) {
+          operand = graph.widen(graph.round(operand));
+        }
+        return graph.mul(old.factors(node), operand);
+      }
+      case Op::kAdd:
+      case Op::kSub: {
+        const auto sole_double = [&](NodeId operand) {
+          return is_double[operand] && uses[operand] == 1;
+        };
+        is_double[id] = sole_double(node.a) || sole_double(node.b);
+        const Precision precision = is_double[id] ? Precision::kDouble : Precision::kSingle;
+        const Value a = read(graph, new_value, node.a, precision);
+        const Value b = read(graph, new_value, node.b, precision);
+        return graph.add(a, node.op == Op::kSub ? -b : b);
+      }
+      case Op::kScale: {
+        const Value scaled = graph.scale(new_value[node.a]);
+        return is_double[node.a] ? graph.round(scaled) : scaled;
+      }
+      default:
+        return copy_node(old, id, graph, new_value);
+    }
+  });
+}
+
+}  // namespace gen

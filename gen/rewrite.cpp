@@ -1,0 +1,44 @@
+#include "gen/rewrite.h"
+
+namespace gen {
+namespace {
+
+Factors flipped(Factors factors, unsigned flips) {
+  for (std::size_t lane = 0; lane < factors.size(); ++lane) {
+    if (flips >> lane & 1) factors[lane] = -factors[lane];
+  }
+  return factors;
+}
+
+}  // namespace
+
+std::vector<int> use_counts(const Graph& graph) {
+  std::vector<int> uses(graph.size());
+  for (const Output& out : graph.outputs()) ++uses[out.from.node];
+  const std::vector<bool> live = graph.live_nodes();
+  for (NodeId id = 0; id < graph.size(); ++id) {
+    if (!live[id]) continue;
+    for (NodeId operand : graph.operands(id)) ++uses[operand];
+    if (graph[id].a != kNoNode && graph[id].a == graph[id].b) ++uses[graph[id].a];
+  }
+  return uses;
+}
+
+Graph absorb_sign_flips(const Graph& old) {
+  const std::vector<int> uses = use_counts(old);
+  return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
+    const Node& node = old[id];
+    if (node.op == Op::kMul || node.op == Op::kFlipSigns) {
+      const Node& operand = old[node.a];
+      if (node.op == Op::kMul && operand.op == Op::kFlipSigns) {
+        return graph.mul(flipped(old.factors(node), operand.flips), new_value[operand.a]);
+      }
+      if (node.op == Op::kFlipSigns && operand.op == Op::kMul && uses[node.a] == 1) {
+        return graph.mul(flipped(old.factors(operand), node.flips), new_value[operand.a]);
+      }
+    }
+    return copy_node(old, id, graph, new_value);
+  });
+}
+
+}  // namespace gen

@@ -1,0 +1,20 @@
+/* zulgen: signal transforms of short, fixed length for 32-bit x86 Linux with SSE2.
+ *
+ * This header declares all of libzulgens8.so.6.1. It is C89 and C++.
+ *
+ *   zulgen/types.h        result codes, scale flags, sample types
+ *   zulgen/version.h      which library this is
+ *   zulgen/dft_complex.h  complex DFT, forward and inverse
+ *
+ * Every function is safe to call from any number of threads at once, as long as no two calls write
+ * to the same array. None prints, exits, allocates or keeps anything after it returns.
+ */
+#ifndef ZULGEN_H
+#define ZULGEN_H
+
+#include "zulgen/types.h"
+
+#include "zulgen/dft_complex.h"
+#include "zulgen/version.h"
+
+#endif

@@ -1,0 +1,37 @@
+// The plain form of a complex transform: every sample is a value of its own.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "gen/graph.h"
+#include "networks/turn.h"
+
+namespace networks {
+
+template <class V>
+class OneSample {
+ public:
+  using Sample = Complex<V>;
+  using Packed = Complex<V>;
+  static constexpr int kWidth = 1;
+
+  OneSample() = default;
+  // The values are nodes of `graph`.
+  explicit OneSample(gen::Graph& graph) : graph_(&graph) {}
+
+  Packed pack(const std::vector<Sample>& samples) { return samples[0]; }
+  Sample unpack(const Packed& packed, int) { return packed; }
+  int pack_of(const Sample&) { return next_pack_++; }
+  Packed twiddle(const Packed& z, const std::vector<Turn>& turns) { return rotate(z, turns[0]); }
+  bool choose() { return false; }
+  void begin_stage(const std::string& name, const std::string& description) {
+    if (graph_ != nullptr) graph_->begin_stage({name, description});
+  }
+
+ private:
+  gen::Graph* graph_ = nullptr;
+  int next_pack_ = 0;
+};
+
+}  // namespace networks
