@@ -3,8 +3,6 @@
 namespace gen {
 namespace {
 
-using Lanes = std::array<double, kMaxLanes>;
-
 // The result of one operation, computed in `T`. Both operands are exact in T.
 template <class T>
 double operate(Op op, double a, double b) {
@@ -29,8 +27,9 @@ double rounded(Precision precision, Quad value) {
 
 }  // namespace
 
-std::vector<double> interpret(const Graph& graph, const std::vector<double>& source, double scale) {
-  std::vector<Lanes> values(graph.size());
+std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& source,
+                                 double scale) {
+  std::vector<LaneValues> values(graph.size());
   const std::vector<bool> live = graph.live_nodes();
   for (NodeId id = 0; id < graph.size(); ++id) {
     if (!live[id]) continue;
@@ -74,9 +73,15 @@ std::vector<double> interpret(const Graph& graph, const std::vector<double>& sou
       }
     }
   }
+  return values;
+}
+
+std::vector<double> interpret(const Graph& graph, const std::vector<double>& source, double scale) {
+  const std::vector<LaneValues> values = evaluate(graph, source, scale);
   std::vector<double> destination;
   for (const Output& out : graph.outputs()) {
-    destination.push_back(values[out.from.node][out.from.index]);
+    if (out.element >= static_cast<int>(destination.size())) destination.resize(out.element + 1);
+    destination[out.element] = values[out.from.node][out.from.index];
   }
   return destination;
 }

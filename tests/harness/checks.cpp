@@ -1,0 +1,233 @@
+#include "tests/harness/checks.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <map>
+
+#include "gen/interpret.h"
+#include "tests/harness/guarded_array.h"
+
+extern "C" int bare_call(harness::KernelFunction function, const void* source, void* destination,
+                         int flag, int stack_offset, int* broken);
+
+namespace harness {
+namespace {
+
+constexpr std::array kFlags = {ZULG_SCALE_FWD_BY_N, ZULG_SCALE_INV_BY_N, ZULG_SCALE_BY_SQRT_N,
+                               ZULG_SCALE_NONE};
+constexpr unsigned char kPattern = 0xa5;
+constexpr std::size_t kMargin = 64;
+
+// An array with room on both sides, at an address of a given offset modulo 16.
+class PlacedArray {
+ public:
+  PlacedArray(std::size_t bytes, unsigned offset) : memory_(bytes + 2 * kMargin, kPattern) {
+    const auto address = reinterpret_cast<std::uintptr_t>(memory_.data()) + kMargin;
+    array_ = memory_.data() + kMargin + (16 - address % 16 + offset) % 16;
+  }
+  void* get() { return array_; }
+
+ private:
+  std::vector<unsigned char> memory_;
+  unsigned char* array_;
+};
+
+// Calls the function in a way that survives whatever it does to registers.
+zulgResult call(const Subject& subject, const void* source, void* destination, zulgScaleFlag flag) {
+  int broken = 0;
+  return bare_call(subject.function, source, destination, flag, 0, &broken);
+}
+
+// The destination after a call with both arrays aligned, or as the offsets say.
+std::vector<double> run(const Subject& subject, const std::vector<double>& input,
+                        zulgScaleFlag flag, unsigned source_offset = 0,
+                        unsigned destination_offset = 0) {
+  PlacedArray source(subject.source_bytes(), source_offset);
+  PlacedArray destination(subject.destination_bytes(), destination_offset);
+  store_elements(subject, input, source.get());
+  call(subject, source.get(), destination.get(), flag);
+  return load_elements(subject, destination.get(), subject.kernel.destination_elements);
+}
+
+std::vector<double> run_in_place(const Subject& subject, const std::vector<double>& input,
+                                 zulgScaleFlag flag, unsigned offset) {
+  PlacedArray array(subject.shared_bytes(), offset);
+  store_elements(subject, input, array.get());
+  call(subject, array.get(), array.get(), flag);
+  return load_elements(subject, array.get(), subject.kernel.destination_elements);
+}
+
+}  // namespace
+
+double relative_error(const Subject& subject, const Reference& reference) {
+  constexpr int kInputs = 100;
+  gen::Quad error = 0, norm = 0;
+  for (unsigned seed = 0; seed < kInputs; ++seed) {
+    const std::vector<double> input = make_input(subject, Data::kUniform, seed);
+    const std::vector<double> output = run(subject, input, ZULG_SCALE_NONE);
+    const std::vector<gen::Quad> exact = reference(input);
+    for (std::size_t i = 0; i < exact.size(); ++i) {
+      error += (output[i] - exact[i]) * (output[i] - exact[i]);
+      norm += exact[i] * exact[i];
+    }
+  }
+  const double u = std::ldexp(1.0, subject.kernel.precision == gen::Precision::kSingle ? -24 : -53);
+  return std::sqrt(static_cast<double>(error / norm)) / u;
+}
+
+Findings check_bits(const Subject& subject) {
+  const gen::Graph graph = subject.kernel.graph();
+  Findings findings;
+  for (const Data data : {Data::kUniform, Data::kWild, Data::kSparse, Data::kNotFinite}) {
+    for (unsigned seed = 0; seed < 25; ++seed) {
+      const std::vector<double> input = make_input(subject, data, seed);
+      for (const zulgScaleFlag flag : kFlags) {
+        const std::vector<double> expected = gen::interpret(graph, input, subject.scale(flag));
+        if (!same_bits(run(subject, input, flag), expected)) {
+          findings.push_back("not the bits of its data flow under flag " + std::to_string(flag) +
+                             ", seed " + std::to_string(seed));
+        }
+      }
+    }
+  }
+  return findings;
+}
+
+Findings check_alignment(const Subject& subject) {
+  Findings findings;
+  const unsigned step = subject.element_size();
+  for (const Data data : {Data::kUniform, Data::kWild}) {
+    const std::vector<double> input = make_input(subject, data, 1);
+    const std::vector<double> expected = run(subject, input, ZULG_SCALE_BY_SQRT_N);
+    for (unsigned source = 0; source < 16; source += step) {
+      for (unsigned destination = 0; destination < 16; destination += step) {
+        if (!same_bits(run(subject, input, ZULG_SCALE_BY_SQRT_N, source, destination), expected)) {
+          findings.push_back("other bits at offsets " + std::to_string(source) + " and " +
+                             std::to_string(destination));
+        }
+      }
+      if (!same_bits(run_in_place(subject, input, ZULG_SCALE_BY_SQRT_N, source), expected)) {
+        findings.push_back("other bits in place, at offset " + std::to_string(source));
+      }
+    }
+  }
+  return findings;
+}
+
+Findings check_memory(const Subject& subject) {
+  Findings findings;
+  const std::vector<double> input = make_input(subject, Data::kUniform, 2);
+  const std::vector<double> expected = run(subject, input, ZULG_SCALE_NONE);
+  GuardedArray source(subject.shared_bytes()), destination(subject.destination_bytes());
+
+  // `array` gets the input, in memory that is otherwise full of NaNs.
+  const auto prepare = [&](GuardedArray& memory, char* array) {
+    memory.fill(0xff);
+    store_elements(subject, input, array);
+  };
+  const auto expect = [&](bool condition, const std::string& finding) {
+    if (!condition) findings.push_back(finding);
+  };
+  for (unsigned offset = 0; offset < 16; offset += subject.element_size()) {
+    for (const bool end : {false, true}) {
+      const std::string where = std::string(end ? " behind" : " before") + " an array at offset " +
+                                std::to_string(offset);
+      const auto place = [&](GuardedArray& memory, std::size_t bytes) {
+        return end ? memory.at_end(bytes, offset) : memory.at_begin(offset);
+      };
+      char* from = place(source, subject.source_bytes());
+      char* to = place(destination, subject.destination_bytes());
+      prepare(source, from);
+      source.set_writable(false);
+      destination.fill(kPattern);
+      const bool fine = runs_without_fault([&] { call(subject, from, to, ZULG_SCALE_NONE); });
+      source.set_writable(true);
+      expect(fine, "touches memory" + where + ", or writes to its source");
+      if (!fine) continue;
+      expect(destination.is_intact(kPattern, to, subject.destination_bytes()), "writes" + where);
+      expect(same_bits(load_elements(subject, to, subject.kernel.destination_elements), expected),
+             "its result depends on memory" + where);
+
+      char* both = place(source, subject.shared_bytes());
+      prepare(source, both);
+      expect(runs_without_fault([&] { call(subject, both, both, ZULG_SCALE_NONE); }),
+             "touches memory in place" + where);
+      expect(source.is_intact(0xff, both, subject.shared_bytes()), "writes in place" + where);
+    }
+  }
+  return findings;
+}
+
+Findings check_arguments(const Subject& subject) {
+  Findings findings;
+  const std::vector<double> input = make_input(subject, Data::kUniform, 3);
+  const auto try_call = [&](bool source, bool destination, zulgScaleFlag flag, unsigned offset,
+                            zulgResult expected) {
+    PlacedArray from(subject.source_bytes(), offset), to(subject.destination_bytes(), offset);
+    store_elements(subject, input, from.get());
+    const std::vector<double> before =
+        load_elements(subject, to.get(), subject.kernel.destination_elements);
+    zulgResult result = ZULG_OK;
+    const bool fine = runs_without_fault([&] {
+      result = call(subject, source ? from.get() : nullptr, destination ? to.get() : nullptr, flag);
+    });
+    const std::string call = std::string(source ? "" : " null source") +
+                             (destination ? "" : " null destination") + " flag " +
+                             std::to_string(flag) + " at offset " + std::to_string(offset);
+    if (!fine || result != expected) {
+      findings.push_back((fine ? std::to_string(result) : "a fault") + " instead of " +
+                         std::to_string(expected) + " for" + call);
+    }
+    const bool touched =
+        !same_bits(before, load_elements(subject, to.get(), subject.kernel.destination_elements));
+    if (touched != (expected == ZULG_OK)) findings.push_back("destination wrong after" + call);
+  };
+  for (const unsigned offset : {0u, static_cast<unsigned>(subject.element_size())}) {
+    for (const zulgScaleFlag flag : kFlags) {
+      try_call(true, true, flag, offset, ZULG_OK);
+      try_call(false, true, flag, offset, ZULG_ERR_NULL_PTR);
+      try_call(true, false, flag, offset, ZULG_ERR_NULL_PTR);
+    }
+    for (const zulgScaleFlag flag : {0, 3, 5, 6, 7, 9, 12, 16, 32 + 8, 1 << 30, -1, -8}) {
+      try_call(true, true, flag, offset, ZULG_ERR_FLAG);
+      try_call(false, true, flag, offset, ZULG_ERR_NULL_PTR);
+      try_call(true, false, flag, offset, ZULG_ERR_NULL_PTR);
+      try_call(false, false, flag, offset, ZULG_ERR_NULL_PTR);
+    }
+  }
+  return findings;
+}
+
+Findings check_calling_convention(const Subject& subject) {
+  static const std::map<int, std::string> kBits = {
+      {1, "ebx"},    {2, "esi"},       {4, "edi"}, {8, "ebp"}, {16, "stack pointer"},
+      {32, "MXCSR"}, {64, "x87 stack"}};
+  Findings findings;
+  const std::vector<double> input = make_input(subject, Data::kUniform, 4);
+  const std::vector<double> expected = run(subject, input, ZULG_SCALE_NONE);
+  for (int stack_offset = 0; stack_offset < 16; stack_offset += 4) {
+    for (const unsigned offset : {0u, static_cast<unsigned>(subject.element_size())}) {
+      PlacedArray source(subject.source_bytes(), offset);
+      PlacedArray destination(subject.destination_bytes(), offset);
+      store_elements(subject, input, source.get());
+      int broken = 0, result = 1;
+      const bool fine = runs_without_fault([&] {
+        result = bare_call(subject.function, source.get(), destination.get(), ZULG_SCALE_NONE,
+                           stack_offset, &broken);
+      });
+      const std::string where = " with the stack " + std::to_string(stack_offset) + " off";
+      const auto output =
+          load_elements(subject, destination.get(), subject.kernel.destination_elements);
+      if (!fine || result != ZULG_OK || !same_bits(output, expected)) {
+        findings.push_back("fails" + where);
+      }
+      for (const auto& [bit, name] : kBits) {
+        if (broken & bit) findings.push_back("changes the " + name + where);
+      }
+    }
+  }
+  return findings;
+}
+
+}  // namespace harness
