@@ -9,19 +9,20 @@ add_library(zulgen_m32 INTERFACE)
 target_compile_options(zulgen_m32 INTERFACE -m32 -msse2 -mfpmath=sse -ffp-contract=off)
 target_link_options(zulgen_m32 INTERFACE -m32)
 
-# Code inside the shared libraries. A caller may come with a stack that is aligned on 4 bytes only.
+# Code inside the shared libraries. SSE3 is there for one move, movddup.
 add_library(zulgen_library_code INTERFACE)
 target_compile_options(zulgen_library_code INTERFACE
-  -O2 -fPIC -fomit-frame-pointer -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables
-  -fno-stack-protector -mincoming-stack-boundary=2)
+  -O2 -msse3 -fPIC -fomit-frame-pointer -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables
+  -fno-stack-protector)
 target_include_directories(zulgen_library_code INTERFACE ${PROJECT_SOURCE_DIR}/include)
 target_link_libraries(zulgen_library_code INTERFACE zulgen_m32 zulgen_warnings)
 
 # Kernels: the order of the statements and of their results' registers is the generator's work. No
-# vectoriser touches them; these options have to stand behind -O2, which would turn them on.
+# vectoriser touches them; these options have to stand behind -O2, which would turn them on. Functions
+# start at a cache line, so that what a kernel takes does not hang on its neighbours.
 add_library(zulgen_kernel_code INTERFACE)
 target_compile_options(zulgen_kernel_code INTERFACE
-  -fno-tree-vectorize -fno-tree-slp-vectorize
+  -fno-tree-vectorize -fno-tree-slp-vectorize -falign-functions=64
   $<$<CXX_COMPILER_ID:GNU>:-flive-range-shrinkage -frename-registers>)
 target_link_libraries(zulgen_kernel_code INTERFACE zulgen_library_code)
 

@@ -14,6 +14,7 @@ namespace {
 using gen::Graph;
 using gen::Kernel;
 using networks::Tree;
+using networks::TwoSamples;
 
 constexpr int kLastScalarLength = 5;
 
@@ -33,34 +34,36 @@ Graph scalar_graph(const Tree& tree, int exponent) {
   return gen::widen_products(graph);
 }
 
-// Two samples a vector, arranged by the choices of `plan`; their number goes to `choices`.
-Graph vector_graph(const Tree& tree, int exponent, unsigned plan, int& choices) {
+// Two samples a vector, arranged by `plan`, which is completed.
+Graph vector_graph(const Tree& tree, networks::Leaves leaves, int exponent,
+                   TwoSamples::Plan& plan) {
   Graph graph(gen::Precision::kSingle);
-  networks::TwoSamples form(graph, plan);
-  std::vector<networks::TwoSamples::Sample> samples;
+  TwoSamples form(graph, leaves, plan);
+  std::vector<TwoSamples::Sample> samples;
   for (int n = 0; n < tree.length; ++n) samples.push_back(form.input(n));
   const auto spectrum = networks::ComplexDft(form).run(tree, samples, exponent);
   graph.begin_stage({"s", "scaled"});
   for (int k = 0; k < tree.length; ++k) form.output(k, spectrum[k]);
-  choices = form.choices();
+  plan = form.plan();
   return graph;
 }
 
-// The cheapest of all plans.
-Graph vector_graph(const Tree& tree, int exponent) {
-  int choices = 0;
-  vector_graph(tree, exponent, 0, choices);
-  unsigned best_plan = 0;
+// The cheapest arrangement of all. One answer may open or close later choices, so the plans are
+// gone through as the leaves of a tree.
+Graph vector_graph(const Tree& tree, networks::Leaves leaves, int exponent) {
+  TwoSamples::Plan plan, best_plan;
   double best_cost = std::numeric_limits<double>::infinity();
-  for (unsigned plan = 0; plan < 1u << choices; ++plan) {
-    const Graph graph = vector_graph(tree, exponent, plan, choices);
+  do {
+    const Graph graph = vector_graph(tree, leaves, exponent, plan);
     const double cost = port_cost(count_vector_operations(gen::lowered(graph, 2 * tree.length)));
     if (cost < best_cost) {
       best_cost = cost;
       best_plan = plan;
     }
-  }
-  return vector_graph(tree, exponent, best_plan, choices);
+    while (!plan.empty() && plan.back()) plan.pop_back();
+    if (!plan.empty()) plan.back() = true;
+  } while (!plan.empty());
+  return vector_graph(tree, leaves, exponent, best_plan);
 }
 
 Kernel kernel(const Row& row, bool forward) {
@@ -74,11 +77,11 @@ Kernel kernel(const Row& row, bool forward) {
   result.source_type = result.destination_type = "zulg32fc";
   result.source_elements = result.destination_elements = 2 * row.length;
   result.has_twin = row.length > kLastScalarLength;
-  result.order = gen::parse_order(row.order);
-  result.graph = [tree = networks::parse_tree(row.tree), forward] {
+  result.order = gen::parse_order(forward ? row.forward_order : row.inverse_order);
+  result.graph = [tree = networks::parse_tree(row.tree), leaves = row.leaves, forward] {
     const int exponent = forward ? 1 : -1;
     return tree.length <= kLastScalarLength ? scalar_graph(tree, exponent)
-                                            : vector_graph(tree, exponent);
+                                            : vector_graph(tree, leaves, exponent);
   };
   return result;
 }

@@ -2,7 +2,7 @@
 // vector types; here are loads, stores, constants and lane moves, each one instruction.
 #pragma once
 
-#include <emmintrin.h>
+#include <pmmintrin.h>
 
 namespace zulgen {
 
@@ -26,17 +26,25 @@ struct Unaligned {
 inline F4 load_low(const float* p) {
   return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
 }
+// The same half twice, by the load alone.
+inline F4 load_twice(const float* p) {
+  typedef double Half __attribute__((may_alias, aligned(4)));
+  return _mm_castpd_ps(_mm_set1_pd(*reinterpret_cast<const Half*>(p)));
+}
 inline void store_low(float* p, F4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
 inline void store_high(float* p, F4 v) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), v); }
 
-// Lanes a and b of `x`, then lanes c and d of `y`.
+// Lanes a and b of `x`, then lanes c and d of `y`. Halves move by integer instructions: those run
+// on more ports than movlhps and movhlps, which compilers would take instead of the shuffle.
 template <int a, int b, int c, int d>
 F4 shuffle(F4 x, F4 y) {
-  if (a == 0 && b == 1 && c == 0 && d == 1)
+  if constexpr (a == 0 && b == 1 && c == 0 && d == 1) {
     return _mm_castsi128_ps(_mm_unpacklo_epi64(_mm_castps_si128(x), _mm_castps_si128(y)));
-  if (a == 2 && b == 3 && c == 2 && d == 3)
+  } else if constexpr (a == 2 && b == 3 && c == 2 && d == 3) {
     return _mm_castsi128_ps(_mm_unpackhi_epi64(_mm_castps_si128(x), _mm_castps_si128(y)));
-  return _mm_shuffle_ps(x, y, _MM_SHUFFLE(d, c, b, a));
+  } else {
+    return _mm_shuffle_ps(x, y, _MM_SHUFFLE(d, c, b, a));
+  }
 }
 
 // (x0, y0, x1, y1) and (x2, y2, x3, y3). The integer form runs on more ports than unpcklps.

@@ -135,14 +135,25 @@ class BodyWriter {
     return result;
   }
 
+  const char* load_suffix(NodeId id) const {
+    if (graph_[id].op != Op::kLanes) return "";
+    switch (single_move(graph_, id)->move) {
+      case Move::kLoadLow:
+        return "_low";
+      case Move::kLoadTwice:
+        return "_twice";
+      default:
+        return "";
+    }
+  }
+
   void define(NodeId id) {
     if (!names_[id].empty()) return;
     const Node& node = graph_[id];
     const std::string value = expression(id);
     if (is_load(graph_, id) && node.op != Op::kZero) {
       const std::vector<int> loaded = elements(id);
-      const bool half = node.lane_count > static_cast<int>(loaded.size());
-      names_[id] = style_.source + std::to_string(loaded[0]) + (half ? "_low" : "");
+      names_[id] = style_.source + std::to_string(loaded[0]) + load_suffix(id);
       for (int element : loaded) --loads_left_[element];
     } else {
       const std::string prefix = node.op == Op::kZero ? "zero" : graph_.stages()[node.stage].name;
@@ -216,6 +227,8 @@ class BodyWriter {
         return memory + "load(" + address + ")";
       case Move::kLoadLow:
         return "load_low(" + address + ")";
+      case Move::kLoadTwice:
+        return "load_twice(" + address + ")";
       case Move::kUnpackLow:
         return call("unpack_low");
       case Move::kUnpackHigh:

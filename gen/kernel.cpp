@@ -62,7 +62,7 @@ std::string emit_kernel(const Kernel& kernel) {
   if (vectors) text << "template <class Memory>\n";
   text << "inline zulgResult " << body_name << arguments << " {\n";
   text << scale_table(kernel) << emit_constants(code);
-  text << "  const zulgResult result = check_arguments(source, destination, flag);\n";
+  text << "  const zulgResult result = check_arguments(source, destination, flag, kScale);\n";
   text << "  if (result != ZULG_OK) return result;\n";
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
@@ -78,7 +78,7 @@ std::string emit_kernel(const Kernel& kernel) {
   }
   text << "ZULGEN_EXPORT zulgResult " << kernel.name << arguments << " {\n";
   if (vectors) {
-    text << "  if (is_misaligned(source, destination)) {\n";
+    text << "  if (!is_aligned(source, destination, &source)) {\n";
     text << "    return " << kernel.twin_name() << "(source, destination, flag);\n  }\n";
   }
   text << "  return " << body_name << (vectors ? "<Aligned>" : "")

@@ -20,15 +20,34 @@ bool is_memory(const Graph& graph, const Lane& lane) {
   return !is_open(lane) && graph[lane.node].op == Op::kInput;
 }
 
-// The first of `count` consecutive elements of the source that the first lanes are.
-std::optional<int> memory_run(const Graph& graph, const Node& node, int count) {
-  if (!is_memory(graph, node.picks[0])) return std::nullopt;
-  const int element = graph[node.picks[0].node].element;
-  for (int lane = 1; lane < count; ++lane) {
-    const Lane& pick = node.picks[lane];
-    if (!is_memory(graph, pick) || graph[pick.node].element != element + lane) return std::nullopt;
+// The first of `count` consecutive elements of the source that stand in lanes from `first` on.
+std::optional<int> memory_run(const Graph& graph, const Node& node, int first, int count) {
+  if (!is_memory(graph, node.picks[first])) return std::nullopt;
+  const int element = graph[node.picks[first].node].element;
+  for (int i = 1; i < count; ++i) {
+    const Lane& pick = node.picks[first + i];
+    if (!is_memory(graph, pick) || graph[pick.node].element != element + i) return std::nullopt;
   }
   return element;
+}
+
+// A load by itself: a whole vector, or half of one, alone or twice.
+std::optional<MoveForm> single_load(const Graph& graph, const Node& node) {
+  const int width = node.lane_count, half = width / 2;
+  MoveForm form{};
+  const auto low = memory_run(graph, node, 0, half);
+  if (!low) return std::nullopt;
+  form.element = *low;
+  if (memory_run(graph, node, 0, width)) {
+    form.move = Move::kLoad;
+  } else if (all_open(node, half)) {
+    form.move = Move::kLoadLow;
+  } else if (memory_run(graph, node, half, half) == low) {
+    form.move = Move::kLoadTwice;
+  } else {
+    return std::nullopt;
+  }
+  return form;
 }
 
 // Lanes first, first + 1 of two vectors in turn.
@@ -94,17 +113,8 @@ std::map<Need, Helper> pair_needs(const Graph& graph) {
 std::optional<MoveForm> single_move(const Graph& graph, NodeId lanes) {
   const Node& node = graph[lanes];
   const int width = node.lane_count, half = width / 2;
+  if (const auto load = single_load(graph, node)) return load;
   MoveForm form{};
-  if (const auto element = memory_run(graph, node, width)) {
-    form.move = Move::kLoad;
-    form.element = *element;
-    return form;
-  }
-  if (const auto element = memory_run(graph, node, half); element && all_open(node, half)) {
-    form.move = Move::kLoadLow;
-    form.element = *element;
-    return form;
-  }
   std::array<NodeId, 2> sources = {kNoNode, kNoNode};
   bool shuffle = true;
   for (int lane = 0; lane < width; ++lane) {
@@ -137,7 +147,8 @@ Graph load_vectors(const Graph& old, int source_length) {
   return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
     const Node& node = old[id];
     const int width = node.lane_count;
-    if (node.op != Op::kLanes || (memory_run(old, node, width / 2) && all_open(node, width / 2))) {
+    const auto load = node.op == Op::kLanes ? single_load(old, node) : std::nullopt;
+    if (node.op != Op::kLanes || (load && load->move != Move::kLoad)) {
       return copy_node(old, id, graph, new_value);
     }
     std::vector<Lane> picks;

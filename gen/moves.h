@@ -10,6 +10,7 @@ namespace gen {
 enum class Move {
   kLoad,        // a whole vector from memory
   kLoadLow,     // the low half from memory, zeros above it
+  kLoadTwice,   // half a vector from memory, into both halves
   kShuffle,     // low half picked from `a`, high half from `b`
   kUnpackLow,   // low halves of `a` and `b`, interleaved
   kUnpackHigh,  // high halves of `a` and `b`, interleaved
@@ -26,8 +27,8 @@ struct MoveForm {
 std::optional<MoveForm> single_move(const Graph& graph, NodeId lanes);
 
 // Takes lanes that come from memory out of whole vectors, as they lie in the source, of
-// `source_length` elements. A single half, and what is left at the end, is loaded by itself, so
-// that nothing behind the source is read.
+// `source_length` elements. A single half, one that is wanted twice, and what is left at the end,
+// is loaded by itself, so that nothing behind the source is read.
 Graph load_vectors(const Graph& graph, int source_length);
 
 // Replaces kLanes nodes that take more than one instruction. Every half that mixes two vectors is

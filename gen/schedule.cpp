@@ -45,7 +45,7 @@ bool is_load(const Graph& graph, NodeId id) {
   if (node.op == Op::kInput || node.op == Op::kZero) return true;
   if (node.op != Op::kLanes) return false;
   const auto form = single_move(graph, id);
-  return form && (form->move == Move::kLoad || form->move == Move::kLoadLow);
+  return form && form->a == kNoNode;
 }
 
 std::vector<NodeId> schedule(const Graph& graph, const Order& order) {

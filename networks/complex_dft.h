@@ -9,6 +9,9 @@
 //   pack(vector<Sample>) -> Packed
 //   unpack(Packed, i) -> Sample
 //   pack_of(Sample) -> int            the same for samples that lie in one Packed
+//   place_in_pack(Sample) -> int      the i under which it was unpacked
+//   goes_in_lanes(Block) -> bool      whether leaf_in_lanes is to compute this block
+//   leaf_in_lanes(Block) -> Block     a short transform whose values fill the packs by themselves
 //   twiddle(Packed, vector<Turn>) -> Packed
 //                                     sample i multiplied by exp(2 pi i * turn i)
 //   choose() -> bool                  settles which of two arrangements to take; the arithmetic
@@ -69,7 +72,7 @@ class ComplexDft {
     const int a = tree.first().length, b = tree.second().length;
     Blocks columns =
         first_stage(tree, blocks, groups, exponent, [&](int j1, int j2) { return b * j1 + j2; });
-    const Groups row_groups = part_groups(groups, a, static_cast<int>(blocks.size()));
+    const Groups row_groups = rows_of(columns, groups, a, b);
     twiddle(columns, row_groups, a, b, exponent);
     return second_stage(tree, columns, row_groups, exponent,
                         [&](int k1, int k2) { return k1 + a * k2; });
@@ -80,7 +83,7 @@ class ComplexDft {
     const int a = tree.first().length, b = tree.second().length;
     const auto index = [&](int i1, int i2) { return (b * i1 + a * i2) % (a * b); };
     const Blocks columns = first_stage(tree, blocks, groups, exponent * b, index);
-    const Groups row_groups = part_groups(groups, a, static_cast<int>(blocks.size()));
+    const Groups row_groups = rows_of(columns, groups, a, b);
     return second_stage(tree, columns, row_groups, exponent * a, index);
   }
 
@@ -140,13 +143,70 @@ class ComplexDft {
     return result;
   }
 
+  // The groups of the second stage's rows: those of its blocks, or rows that the first stage leaves
+  // in one pack already.
+  Groups rows_of(const Blocks& columns, const Groups& groups, int a, int b) {
+    const Groups as_left = rows_as_left(columns, b);
+    if (!as_left.empty() && form_.choose()) return as_left;
+    return part_groups(groups, a, static_cast<int>(columns.size()) / b);
+  }
+
+  // Rows whose samples lie in one pack in every column; none if columns differ in that, or no pack
+  // holds more than one sample of a column.
+  Groups rows_as_left(const Blocks& columns, int b) {
+    const int count = static_cast<int>(columns.size()) / b;
+    Groups result;
+    Group alone;
+    for (int block = 0; block < count; ++block) {
+      const Groups together = packed_together(columns[block]);
+      for (int j2 = 1; j2 < b; ++j2) {
+        if (packed_together(columns[j2 * count + block]) != together) return {};
+      }
+      for (const Group& group : together) {
+        Group& rows = group.size() == 1 ? alone : result.emplace_back();
+        for (int k1 : group) rows.push_back(k1 * count + block);
+      }
+    }
+    if (result.empty()) return {};
+    for (std::size_t i = 0; i < alone.size(); i += Form::kWidth) {
+      const std::size_t end = std::min(i + Form::kWidth, alone.size());
+      result.emplace_back(alone.begin() + i, alone.begin() + end);
+    }
+    return result;
+  }
+
+  // The indices of samples that lie in one pack, in the order of their places there.
+  Groups packed_together(const Block& samples) {
+    std::map<int, std::map<int, int>> packs;
+    for (int k = 0; k < static_cast<int>(samples.size()); ++k) {
+      packs[form_.pack_of(samples[k])][form_.place_in_pack(samples[k])] = k;
+    }
+    Groups result;
+    for (const auto& [pack, places] : packs) {
+      Group& group = result.emplace_back();
+      for (const auto& [place, k] : places) group.push_back(k);
+    }
+    std::sort(result.begin(), result.end());
+    return result;
+  }
+
   // The short transforms.
   Blocks leaves(int length, const Blocks& blocks, const Groups& groups, int exponent) {
     last_stage_ = std::string(1, static_cast<char>('a' + stage_count_++));
     form_.begin_stage(last_stage_, std::to_string(blocks.size()) +
                                        (blocks.size() == 1 ? " block" : " blocks") + " of " +
                                        std::to_string(length) + " points");
+    // Another root only renames the outputs.
+    const auto source = [&](int k) { return ((exponent * k) % length + length) % length; };
     Blocks result(blocks.size());
+    if (std::all_of(blocks.begin(), blocks.end(),
+                    [this](const Block& block) { return form_.goes_in_lanes(block); })) {
+      for (std::size_t i = 0; i < blocks.size(); ++i) {
+        const Block y = form_.leaf_in_lanes(blocks[i]);
+        for (int k = 0; k < length; ++k) result[i].push_back(y[source(k)]);
+      }
+      return result;
+    }
     for (const Group& group : groups) {
       std::vector<Packed> x;
       for (int j = 0; j < length; ++j) {
@@ -156,10 +216,8 @@ class ComplexDft {
       }
       const std::vector<Packed> y = short_dft(x);
       for (int k = 0; k < length; ++k) {
-        // Another root only renames the outputs.
-        const int source = ((exponent * k) % length + length) % length;
         for (std::size_t i = 0; i < group.size(); ++i) {
-          result[group[i]].push_back(form_.unpack(y[source], static_cast<int>(i)));
+          result[group[i]].push_back(form_.unpack(y[source(k)], static_cast<int>(i)));
         }
       }
     }

@@ -1,5 +1,8 @@
 #include "networks/two_samples.h"
 
+#include <algorithm>
+#include <array>
+
 namespace networks {
 namespace {
 
@@ -42,6 +45,57 @@ TwoSamples::Packed TwoSamples::pack(const std::vector<Sample>& samples) {
 TwoSamples::Sample TwoSamples::unpack(const Packed& packed, int i) {
   const gen::Value& value = packed.v.value;
   return {{value.node, 2 * i}, {value.node, 2 * i + 1}, value.negative};
+}
+
+bool TwoSamples::goes_in_lanes(const std::vector<Sample>& block) const {
+  if (leaves_ == Leaves::kSideBySide || block.size() > 5) return false;
+  const auto from_memory = [this](const Sample& sample) {
+    return graph_[sample.re.node].op == gen::Op::kInput;
+  };
+  return std::all_of(block.begin(), block.end(), from_memory);
+}
+
+std::vector<TwoSamples::Sample> TwoSamples::leaf_in_lanes(const std::vector<Sample>& block) {
+  std::vector<gen::Expr> x;
+  for (const Sample& sample : block) x.push_back(pack({sample, sample}).v);
+  const auto flip = [this](const gen::Expr& a, unsigned flips) {
+    return gen::Expr{&graph_, graph_.flip_signs(a.value, flips)};
+  };
+  const auto pick = [this](const gen::Expr& a, const std::array<int, 4>& lanes) {
+    const gen::NodeId node = a.value.node;
+    return gen::Expr{
+        &graph_,
+        graph_.lanes({{node, lanes[0]}, {node, lanes[1]}, {node, lanes[2]}, {node, lanes[3]}})};
+  };
+  const auto times = [this](const gen::Expr& a, const gen::Factors& factors) {
+    return gen::Expr{&graph_, graph_.mul(factors, a.value)};
+  };
+  constexpr unsigned kUpper = 0b1100;
+  if (block.size() == 2) {
+    const SamplePair y = {x[0] + flip(x[1], kUpper)};
+    return {unpack(y, 0), unpack(y, 1)};
+  }
+  if (block.size() == 3) {
+    const gen::Expr sum = x[1] + x[2], mean = x[0] - gen::ratio(1, 2) * sum;
+    const gen::Expr product = gen::sin_of_turn(1, 3) * pick(x[1] - x[2], {1, 0, 3, 2});
+    const SamplePair y0 = {x[0] + sum}, y12 = {mean + flip(product, 0b0110)};
+    return {unpack(y0, 0), unpack(y12, 0), unpack(y12, 1)};
+  }
+  if (block.size() == 4) {
+    const gen::Expr ab = x[0] + flip(x[2], kUpper), cd = x[1] + flip(x[3], kUpper);
+    const gen::Expr turned = flip(pick(cd, {0, 1, 3, 2}), 0b1000);
+    const SamplePair y01 = {ab + turned}, y23 = {ab - turned};
+    return {unpack(y01, 0), unpack(y01, 1), unpack(y23, 0), unpack(y23, 1)};
+  }
+  const Number c1 = gen::cos_of_turn(1, 5), c2 = -gen::cos_of_turn(2, 5);
+  const Number s1 = gen::sin_of_turn(1, 5), s2 = gen::sin_of_turn(2, 5);
+  const gen::Expr a = x[1] + x[4], b = x[3] + x[2], f = x[1] - x[4], e = x[3] - x[2];
+  const gen::Expr p = (times(a, {c1, c1, -c2, -c2}) + x[0]) + times(b, {-c2, -c2, c1, c1});
+  // i r, so that swapping the parts alone makes it r.
+  const gen::Expr ir = times(f, {-s1, s1, -s2, s2}) + times(e, {s2, -s2, -s1, s1});
+  const gen::Expr r = pick(ir, {1, 0, 3, 2});
+  const SamplePair y0 = {(x[0] + a) + b}, y12 = {p + r}, y43 = {p - r};
+  return {unpack(y0, 0), unpack(y12, 0), unpack(y12, 1), unpack(y43, 1), unpack(y43, 0)};
 }
 
 TwoSamples::Packed TwoSamples::twiddle(const Packed& z, const std::vector<Turn>& turns) {

@@ -21,6 +21,16 @@ struct SamplePair {
 
 SamplePair minus_i(const SamplePair& z);
 
+// How the blocks of the first stage, which come from memory, sit in vectors.
+enum class Leaves {
+  // Two blocks side by side, as everywhere else.
+  kSideBySide,
+  // One block of 2 to 5 samples in both halves. A sample is loaded into both at the price of a
+  // load,
+  // and the halves go different ways, so that the block's values fill the vectors by themselves.
+  kInLanes,
+};
+
 class TwoSamples {
  public:
   // One sample: the lanes that its parts are in.
@@ -31,8 +41,10 @@ class TwoSamples {
   using Packed = SamplePair;
   static constexpr int kWidth = 2;
 
-  // Bit i of `plan` is the answer to choice i.
-  TwoSamples(gen::Graph& graph, unsigned plan) : graph_(graph), plan_(plan) {}
+  // The answers to the choices, first to last; those that the plan doesn't foresee are no.
+  using Plan = std::vector<bool>;
+  TwoSamples(gen::Graph& graph, Leaves leaves, Plan plan)
+      : graph_(graph), leaves_(leaves), plan_(std::move(plan)) {}
 
   Sample input(int n);
   // Scales the sample and makes it sample k of the destination.
@@ -41,18 +53,26 @@ class TwoSamples {
   Packed pack(const std::vector<Sample>& samples);
   Sample unpack(const Packed& packed, int i);
   int pack_of(const Sample& sample) { return sample.re.node; }
+  int place_in_pack(const Sample& sample) { return sample.re.index / 2; }
+  bool goes_in_lanes(const std::vector<Sample>& block) const;
+  std::vector<Sample> leaf_in_lanes(const std::vector<Sample>& block);
   Packed twiddle(const Packed& z, const std::vector<Turn>& turns);
-  bool choose() { return plan_ >> choices_++ & 1; }
+  bool choose() {
+    if (choices_ == plan_.size()) plan_.push_back(false);
+    return plan_[choices_++];
+  }
   void begin_stage(const std::string& name, const std::string& description) {
     graph_.begin_stage({name, description});
   }
 
-  int choices() const { return choices_; }
+  // The plan, with all answers that were asked for.
+  const Plan& plan() const { return plan_; }
 
  private:
   gen::Graph& graph_;
-  unsigned plan_;
-  int choices_ = 0;
+  Leaves leaves_;
+  Plan plan_;
+  std::size_t choices_ = 0;
 };
 
 }  // namespace networks

@@ -1,0 +1,132 @@
+#!/bin/sh
+# The spectrogram program on good recordings and broken ones.
+# Usage: spectrogram.sh SPECTROGRAM MAKE_WAV
+set -eu
+spectrogram=$1 make_wav=$2
+work=$(mktemp -d)
+trap 'rm -r "$work"' EXIT
+cd "$work"
+failed=0
+
+# run CODE [ARGUMENT...]: the program ends with this code; what it prints goes to out and error.
+run() {
+  wanted=$1
+  shift
+  rm -f spectrogram.png
+  code=0
+  "$spectrogram" "$@" >out 2>error || code=$?
+  [ "$code" -eq "$wanted" ] && return
+  echo "exit code $code instead of $wanted: spectrogram $*" >&2
+  cat error >&2
+  failed=1
+}
+
+expect() {  # expect FILE PATTERN: a line of the file matches
+  grep -Eq "$2" "$1" && return
+  echo "nothing like \"$2\" in:" >&2
+  cat "$1" >&2
+  failed=1
+}
+
+is_picture() {  # a PNG of full length
+  [ "$(head -c 8 "$1" | od -An -tx1 | tr -d ' \n')" = 89504e470d0a1a0a ] &&
+    [ "$(tail -c 8 "$1" | head -c 4)" = IEND ] && return
+  echo "$1 is no PNG" >&2
+  failed=1
+}
+
+rejects() {  # rejects FILE PATTERN: one line that says what is wrong with the file, and no picture
+  run 1 "$1"
+  expect error "^spectrogram: $1: .*($2)"
+  [ "$(wc -l <error)" -eq 1 ] && [ ! -e spectrogram.png ] && return
+  echo "more than a message for $1" >&2
+  failed=1
+}
+
+overwrite() {  # overwrite OFFSET BYTES: in patched.wav
+  # shellcheck disable=SC2059
+  printf "$2" >bytes
+  dd if=bytes of=patched.wav bs=1 seek="$1" conv=notrunc status=none
+}
+
+patched() {  # patched OFFSET BYTES: good.wav with these bytes there, as patched.wav
+  cp good.wav patched.wav
+  overwrite "$@"
+}
+
+# The shipped recording, a guitar's chord over E.
+run 0
+expect out '0\.0 dB +E2 '
+expect out '^ .* dB +B3 '
+is_picture spectrogram.png
+
+# Every format, with the same tone first. Of 9 bits and more, containers are whole bytes.
+for format in "1 8 1" "1 16 1" "1 16 2" "1 24 1" "1 24 5" "1 32 2" "3 32 1" "3 64 3"; do
+  for kind in "" extensible; do
+    # shellcheck disable=SC2086
+    "$make_wav" $format $kind >format.wav
+    run 0 format.wav tone.png
+    expect out '^ +(439\.9|440\.0).* Hz +0\.0 dB +A4 +[+-]0 cents'
+  done
+done
+is_picture tone.png
+
+# 16 bits, mono: the header's fields are from byte 32, the samples' length is at 52, they at 56.
+"$make_wav" 1 16 1 >good.wav
+rejects missing.wav "No such file"
+rejects . "Is a directory"
+: >empty.wav
+rejects empty.wav "empty"
+echo "RIFFraff, no samples, a text" >text.wav
+rejects text.wav "not a WAV"
+for size in 44 53 56 57; do
+  head -c $size good.wav >truncated.wav
+  rejects truncated.wav "cut short|ends before|no samples"
+done
+patched 32 '\002' && rejects patched.wav "encoding 2 "
+patched 32 '\376\377' && rejects patched.wav "encoding 65534 "
+patched 34 '\000\000' && rejects patched.wav "no channels"
+patched 34 '\377\377' && rejects patched.wav "block size"
+patched 36 '\000\000' && rejects patched.wav "rate is 0"
+patched 46 '\000' && rejects patched.wav "0 bits"
+patched 46 '\100' && rejects patched.wav "64 bits"
+patched 16 '\376\377\377\377' && rejects patched.wav "ends before"
+patched 28 '\017' && rejects patched.wav "cut short"
+patched 28 '\377\377\377\377' && rejects patched.wav "ends before"
+patched 24 'skip' && rejects patched.wav "before their format"
+"$make_wav" 3 32 1 >good.wav
+patched 60 '\000\000\300\177' && rejects patched.wav "sample 1 is"
+patched 60 '\000\000\200\377' && rejects patched.wav "sample 1 is"
+
+# Lengths that the writer didn't know, or that are wrong: what is there counts.
+"$make_wav" 1 16 1 >good.wav
+for size in '\377\377\377\377' '\000\360\377\177' '\177\076\000\000'; do
+  patched 52 "$size" && run 0 patched.wav
+  expect out 'patched.wav: 1.00 s'
+done
+patched 52 '\000\000\000\000' && rejects patched.wav "no samples"
+overwrite 4 '\060\000\000\000'
+run 0 patched.wav
+expect out 'patched.wav: 1.00 s'
+head -c 8057 good.wav >"half é.wav"
+run 0 "half é.wav"
+expect out 'wav: 0.50 s'
+expect error 'ends early'
+
+# Less than a frame, and silence.
+head -c 76 good.wav >short.wav
+run 0 short.wav
+head -c 8056 /dev/zero >zeros
+head -c 56 good.wav | cat - zeros >silence.wav
+run 0 silence.wav
+expect out 'no tones'
+
+# The command line, and pictures that can't be written.
+run 2 good.wav a.png b.png
+run 2 --help
+expect error '^usage: spectrogram '
+run 1 good.wav missing/picture.png
+expect error 'missing/picture.png: No such file'
+run 1 good.wav /dev/full
+expect error '/dev/full: No space'
+exit $failed
