@@ -5,6 +5,15 @@ add_library(zulgen_warnings INTERFACE)
 # g++ 12 sees overlaps in every concatenation of strings.
 target_compile_options(zulgen_warnings INTERFACE -Wall -Wextra -Wno-restrict)
 
+# Programs, and what is linked into programs alone.
+option(ZULGEN_SANITIZE "Watch addresses and undefined behaviour in all programs" OFF)
+add_library(zulgen_program INTERFACE)
+target_link_libraries(zulgen_program INTERFACE zulgen_warnings)
+if(ZULGEN_SANITIZE)
+  target_compile_options(zulgen_program INTERFACE -fsanitize=address,undefined -fno-sanitize-recover)
+  target_link_options(zulgen_program INTERFACE -fsanitize=address,undefined)
+endif()
+
 add_library(zulgen_m32 INTERFACE)
 target_compile_options(zulgen_m32 INTERFACE -m32 -msse2 -mfpmath=sse -ffp-contract=off)
 target_link_options(zulgen_m32 INTERFACE -m32)

@@ -99,16 +99,18 @@ class DotWriter {
 
   std::string lanes_label(NodeId id) const {
     const Node& node = graph_[id];
-    std::vector<int> from_source;
-    bool swapped = true;
+    std::vector<int> from_source, indices;
     for (int lane = 0; lane < node.lane_count; ++lane) {
       const Lane& pick = node.picks[lane];
       if (pick.node == kNoNode) continue;
-      if (is_source(id)) from_source.push_back(graph_[pick.node].element);
-      swapped = swapped && pick == Lane{node.picks[0].node, lane ^ 1};
+      from_source.push_back(graph_[pick.node].element);
+      indices.push_back(pick.index);
     }
     if (is_source(id)) return elements("x", from_source);
-    return swapped ? "swap re, im" : "side by side";
+    if (graph_.operands(id).size() > 1) return "side by side";
+    if (indices == std::vector<int>{1, 0, 3, 2}) return "swap re, im";
+    if (indices == std::vector<int>{0, 1, 3, 2}) return "swap upper re, im";
+    return "pick lanes";
   }
 
   // Elements of an array; both parts of a complex sample are told by the sample.
