@@ -6,6 +6,7 @@
 #include <random>
 
 #include "dft_complex/dft_complex.h"
+#include "gen/expr.h"
 #include "gen/interpret.h"
 #include "gen/manifest.h"
 #include "networks/complex_dft.h"
@@ -67,6 +68,32 @@ TEST(ComplexDft, EqualsTheDefinition) {
         EXPECT_LT(fabsq(y[k].im - expected[k].im), 1e-29) << row.tree << " " << exponent;
       }
     }
+  }
+}
+
+// Which samples share a vector is free to choose because it rounds nothing differently.
+TEST(ComplexKernels, HaveTheValuesOfThePlainNetwork) {
+  for (const gen::Kernel& kernel : gen::all_kernels()) {
+    if (!kernel.has_twin) continue;
+    gen::Graph graph(kernel.precision);
+    std::vector<Complex<gen::Expr>> samples;
+    std::vector<double> source;
+    for (const auto& sample : random_block(kernel.length)) {
+      const int at = static_cast<int>(source.size());
+      samples.push_back({{&graph, graph.input(at)}, {&graph, graph.input(at + 1)}});
+      source.push_back(static_cast<double>(sample.re));
+      source.push_back(static_cast<double>(sample.im));
+    }
+    networks::OneSample<gen::Expr> form(graph);
+    const int exponent = kernel.scale_rule == gen::ScaleRule::kForward ? 1 : -1;
+    const auto spectrum =
+        networks::ComplexDft(form).run(networks::parse_tree(kernel.recipe), samples, exponent);
+    for (int k = 0; k < kernel.length; ++k) {
+      graph.output(2 * k, spectrum[k].re.value);
+      graph.output(2 * k + 1, spectrum[k].im.value);
+    }
+    EXPECT_EQ(gen::interpret(kernel.graph(), source, 1), gen::interpret(graph, source, 1))
+        << kernel.name;
   }
 }
 
