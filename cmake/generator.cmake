@@ -18,7 +18,7 @@ target_include_directories(codegen32 PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(codegen32 PUBLIC zulgen_m32 zulgen_program)
 
 # The files that every family's kernels are spread over.
-set(ZULGEN_SHARDS dft_complex_32fc=4)
+set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12)
 set(ZULGEN_ORDER "" CACHE STRING
   "Schedule all kernels in this order instead of their own, for measuring (\"bisect 3\")")
 

@@ -11,15 +11,24 @@ using D2 = __m128d;
 
 inline F4 allF4(float x) { return _mm_set1_ps(x); }
 inline F4 lanesF4(float a, float b, float c, float d) { return _mm_setr_ps(a, b, c, d); }
+inline D2 allD2(double x) { return _mm_set1_pd(x); }
+inline D2 lanesD2(double a, double b) { return _mm_setr_pd(a, b); }
 
 // Access to whole vectors of an array that is aligned on 16 bytes, and of any array.
 struct Aligned {
   static F4 load(const float* p) { return _mm_load_ps(p); }
   static void store(float* p, F4 v) { _mm_store_ps(p, v); }
+  static D2 load(const double* p) { return _mm_load_pd(p); }
+  static void store(double* p, D2 v) { _mm_store_pd(p, v); }
 };
 struct Unaligned {
   static F4 load(const float* p) { return _mm_loadu_ps(p); }
   static void store(float* p, F4 v) { _mm_storeu_ps(p, v); }
+  static D2 load(const double* p) { return _mm_loadh_pd(_mm_load_sd(p), p + 1); }
+  static void store(double* p, D2 v) {
+    _mm_storel_pd(p, v);
+    _mm_storeh_pd(p + 1, v);
+  }
 };
 
 // Half a vector, whatever the alignment; the upper half of the result is zero.
@@ -47,6 +56,11 @@ F4 shuffle(F4 x, F4 y) {
   }
 }
 
+template <int a, int b>
+D2 shuffle(D2 x, D2 y) {
+  return _mm_shuffle_pd(x, y, b << 1 | a);
+}
+
 // (x0, y0, x1, y1) and (x2, y2, x3, y3). The integer form runs on more ports than unpcklps.
 inline F4 unpack_low(F4 x, F4 y) {
   return _mm_castsi128_ps(_mm_unpacklo_epi32(_mm_castps_si128(x), _mm_castps_si128(y)));
@@ -60,6 +74,11 @@ template <int a, int b, int c, int d>
 F4 flip_signs(F4 x) {
   return _mm_xor_ps(
       x, _mm_setr_ps(a ? -0.0f : 0.0f, b ? -0.0f : 0.0f, c ? -0.0f : 0.0f, d ? -0.0f : 0.0f));
+}
+
+template <int a, int b>
+D2 flip_signs(D2 x) {
+  return _mm_xor_pd(x, _mm_setr_pd(a ? -0.0 : 0.0, b ? -0.0 : 0.0));
 }
 
 }  // namespace zulgen

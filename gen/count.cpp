@@ -99,6 +99,29 @@ class ScalarExpansion {
 
 Counts count_operations(const Graph& graph) { return ScalarExpansion(graph).counts(); }
 
+namespace {
+
+// Whether the lane is zero whatever the input.
+bool is_zero(const Graph& graph, Lane lane) {
+  const Node& node = graph[lane.node];
+  switch (node.op) {
+    case Op::kZero:
+      return true;
+    case Op::kLanes:
+      return is_zero(graph, node.picks[lane.index]);
+    case Op::kFlipSigns:
+    case Op::kMul:
+      return is_zero(graph, {node.a, lane.index});
+    case Op::kAdd:
+    case Op::kSub:
+      return is_zero(graph, {node.a, lane.index}) && is_zero(graph, {node.b, lane.index});
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
 Counts count_carried_operations(const Graph& graph) {
   std::set<Lane> live;
   for (const Output& out : graph.outputs()) live.insert(out.from);
@@ -107,6 +130,7 @@ Counts count_carried_operations(const Graph& graph) {
   while (!live.empty()) {
     const Lane lane = *live.rbegin();
     live.erase(lane);
+    if (is_zero(graph, lane)) continue;
     const Node& node = graph[lane.node];
     if (node.op == Op::kLanes) {
       live.insert(node.picks[lane.index]);

@@ -16,7 +16,8 @@ struct Counts {
 // signed constant; the sign of an operand stays outside.
 Counts count_operations(const Graph& graph);
 
-// The arithmetic as the lanes carry it: every addition, and every product but those by 1.
+// The arithmetic as the lanes carry it: every addition, and every product but those by 1; what is
+// zero whatever the input is left out.
 Counts count_carried_operations(const Graph& graph);
 
 }  // namespace gen

@@ -168,8 +168,11 @@ class BodyWriter {
     switch (node.op) {
       case Op::kInput:
         return style_.source + "[" + std::to_string(node.element) + "]";
-      case Op::kZero:
-        return node.precision == Precision::kSingle ? "0.0f" : "0.0";
+      case Op::kZero: {
+        const std::string zero = node.precision == Precision::kSingle ? "0.0f" : "0.0";
+        return node.lane_count == 1 ? zero
+                                    : std::string("all") + type_name(node) + "(" + zero + ")";
+      }
       case Op::kLanes:
         return move(id);
       case Op::kFlipSigns: {

@@ -13,10 +13,11 @@ Value Graph::input(int element) {
   return {intern(node)};
 }
 
-Value Graph::zero(Precision precision) {
+Value Graph::zero(Precision precision, int lane_count) {
   Node node;
   node.op = Op::kZero;
   node.precision = precision;
+  node.lane_count = lane_count;
   return {intern(node)};
 }
 
@@ -191,7 +192,7 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
     case Op::kInput:
       return graph.input(node.element);
     case Op::kZero:
-      return graph.zero(node.precision);
+      return graph.zero(node.precision, node.lane_count);
     case Op::kLanes: {
       std::vector<Lane> picks(node.picks.begin(), node.picks.begin() + node.lane_count);
       unsigned flips = 0;

@@ -83,7 +83,7 @@ class Graph {
   explicit Graph(Precision sample) : sample_(sample) {}
 
   Value input(int element);
-  Value zero(Precision precision);
+  Value zero(Precision precision, int lane_count = 1);
   // All picked lanes have the same precision; open lanes are default-constructed.
   Value lanes(const std::vector<Lane>& picks);
   Value flip_signs(Value a, unsigned flips);

@@ -50,7 +50,7 @@ std::string emit_kernel(const Kernel& kernel) {
   const Graph graph = kernel.graph();
   const Graph code = lowered(graph, kernel.source_elements);
   const std::string element = kernel.precision == Precision::kSingle ? "float" : "double";
-  const bool vectors = kernel.has_twin;
+  const bool vectors = kernel.bodies != Bodies::kOne;
   const std::string arguments = "(const " + kernel.source_type + "* source, " +
                                 kernel.destination_type + "* destination, zulgScaleFlag flag)";
   const std::string body_name = kernel.name.substr(4);
@@ -72,17 +72,22 @@ std::string emit_kernel(const Kernel& kernel) {
   text << emit_body(code, schedule(code, kernel.order), style);
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
-  if (vectors) {
+  const std::string pass = "(source, destination, flag);\n";
+  const std::string aligned = body_name + (vectors ? "<Aligned>" : "") + pass;
+  const std::string unaligned = body_name + "<Unaligned>" + pass;
+  if (kernel.bodies == Bodies::kTwin) {
     text << "ZULGEN_TWIN zulgResult " << kernel.twin_name() << arguments << " {\n";
-    text << "  return " << body_name << "<Unaligned>(source, destination, flag);\n}\n\n";
+    text << "  return " << unaligned << "}\n\n";
   }
   text << "ZULGEN_EXPORT zulgResult " << kernel.name << arguments << " {\n";
-  if (vectors) {
+  if (kernel.bodies == Bodies::kTwin) {
     text << "  if (!is_aligned(source, destination, &source)) {\n";
-    text << "    return " << kernel.twin_name() << "(source, destination, flag);\n  }\n";
+    text << "    return " << kernel.twin_name() << pass << "  }\n";
+  } else if (kernel.bodies == Bodies::kBothInside) {
+    // Too short to need the stack.
+    text << "  if (!is_aligned(source, destination, nullptr)) return " << unaligned;
   }
-  text << "  return " << body_name << (vectors ? "<Aligned>" : "")
-       << "(source, destination, flag);\n}\n";
+  text << "  return " << aligned << "}\n";
   return text.str();
 }
 

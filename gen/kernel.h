@@ -13,6 +13,13 @@ namespace gen {
 // Which flag selects the factor 1 / N.
 enum class ScaleRule { kForward, kInverse };
 
+// How a kernel serves arrays that aren't aligned on 16 bytes.
+enum class Bodies {
+  kOne,         // scalar code, which doesn't mind
+  kBothInside,  // two bodies in the exported function
+  kTwin,        // the second body in an internal function of its own
+};
+
 struct Kernel {
   std::string name;    // the exported function
   std::string family;  // the source files that it goes to
@@ -25,13 +32,12 @@ struct Kernel {
   std::string source_type, destination_type;
   int source_elements = 0, destination_elements = 0;
 
-  // Whether there is a second body for arrays that aren't aligned on 16 bytes.
-  bool has_twin = false;
+  Bodies bodies = Bodies::kOne;
   Order order;
   // The data flow, as the network gives it.
   std::function<Graph()> graph;
 
-  // The internal function that holds the second body.
+  // The internal function that holds the second body of kTwin.
   std::string twin_name() const;
 };
 

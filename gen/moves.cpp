@@ -12,8 +12,11 @@ using Picks = std::array<Lane, kMaxLanes>;
 
 bool is_open(const Lane& lane) { return lane.node == kNoNode; }
 
-bool all_open(const Node& node, int first) {
-  return std::all_of(node.picks.begin() + first, node.picks.begin() + node.lane_count, is_open);
+// Whether the lanes from `first` on are open or zero.
+bool is_blank(const Graph& graph, const Node& node, int first) {
+  return std::all_of(
+      node.picks.begin() + first, node.picks.begin() + node.lane_count,
+      [&](const Lane& lane) { return is_open(lane) || graph[lane.node].op == Op::kZero; });
 }
 
 bool is_memory(const Graph& graph, const Lane& lane) {
@@ -40,7 +43,7 @@ std::optional<MoveForm> single_load(const Graph& graph, const Node& node) {
   form.element = *low;
   if (memory_run(graph, node, 0, width)) {
     form.move = Move::kLoad;
-  } else if (all_open(node, half)) {
+  } else if (is_blank(graph, node, half)) {
     form.move = Move::kLoadLow;
   } else if (memory_run(graph, node, half, half) == low) {
     form.move = Move::kLoadTwice;

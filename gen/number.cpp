@@ -51,6 +51,10 @@ Number operator*(const Number& a, const Number& b) {
   return Number(a.value() * b.value(), a.name() + " * " + b.name());
 }
 
+Number difference(const Number& a, const Number& b) {
+  return Number(a.value() - b.value(), "difference " + a.name() + " and " + b.name());
+}
+
 Number ratio(int numerator, int denominator) {
   const int common = std::gcd(numerator, denominator);
   const int top = numerator / common;

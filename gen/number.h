@@ -33,6 +33,9 @@ class Number {
 // The exact product, named after its factors.
 Number operator*(const Number& a, const Number& b);
 
+// a - b.
+Number difference(const Number& a, const Number& b);
+
 // numerator / denominator.
 Number ratio(int numerator, int denominator);
 

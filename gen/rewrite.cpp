@@ -24,6 +24,29 @@ std::vector<int> use_counts(const Graph& graph) {
   return uses;
 }
 
+Graph fold_products(const Graph& old) {
+  const std::vector<int> uses = use_counts(old);
+  const auto sole_product = [&](NodeId id) { return old[id].op == Op::kMul && uses[id] == 1; };
+  return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
+    const Node& node = old[id];
+    if (node.op != Op::kMul) return copy_node(old, id, graph, new_value);
+    const Node& sum = old[node.a];
+    const bool is_sum = sum.op == Op::kAdd || sum.op == Op::kSub;
+    if (!is_sum || uses[node.a] != 1 || !sole_product(sum.a) || !sole_product(sum.b)) {
+      return copy_node(old, id, graph, new_value);
+    }
+    const auto folded = [&](NodeId product) {
+      Factors factors;
+      for (int lane = 0; lane < node.lane_count; ++lane) {
+        factors.push_back(old.factor(node, lane) * old.factor(old[product], lane));
+      }
+      return graph.mul(factors, new_value[old[product].a]);
+    };
+    const Value a = folded(sum.a), b = folded(sum.b);
+    return graph.add(a, sum.op == Op::kSub ? -b : b);
+  });
+}
+
 Graph absorb_sign_flips(const Graph& old) {
   const std::vector<int> uses = use_counts(old);
   return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {

@@ -1,4 +1,5 @@
-// Named rewrites of a graph. None changes the value of any float operation.
+// Named rewrites of a graph. None changes the value of any float operation, but for one that says
+// so.
 #pragma once
 
 #include <vector>
@@ -9,6 +10,11 @@ namespace gen {
 
 // How many operands and outputs read each node; a node that reads another twice counts twice.
 std::vector<int> use_counts(const Graph& graph);
+
+// c * (k1 * x +- k2 * y) becomes (c k1) * x +- (c k2) * y where nobody else reads the sum or the
+// two products. The one rewrite that does change roundings: networks ask for it by name, and their
+// kernels' roundings are those behind it.
+Graph fold_products(const Graph& graph);
 
 // Moves sign flips of single lanes into the constants of the multiplication behind or before them:
 // c * flip(x) and flip(c * x) become (flip c) * x.

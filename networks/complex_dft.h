@@ -10,27 +10,41 @@
 //   unpack(Packed, i) -> Sample
 //   pack_of(Sample) -> int            the same for samples that lie in one Packed
 //   place_in_pack(Sample) -> int      the i under which it was unpacked
+//   zero() -> Sample
 //   goes_in_lanes(Block) -> bool      whether leaf_in_lanes is to compute this block
 //   leaf_in_lanes(Block) -> Block     a short transform whose values fill the packs by themselves
+//   multiply(Packed, vector<ComplexNumber>, bool conjugate) -> Packed
+//                                     sample i by constant i, or its conjugate, in full
 //   twiddle(Packed, vector<Turn>) -> Packed
-//                                     sample i multiplied by exp(2 pi i * turn i)
+//                                     sample i by exp(2 pi i * turn i), by quarter turns for
+//                                     nothing
 //   choose() -> bool                  settles which of two arrangements to take; the arithmetic
 //                                     that a sample sees is the same either way
 //   begin_stage(name, description)    for readers of generated code
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "networks/packs.h"
 #include "networks/short_dft.h"
 #include "networks/tree.h"
 #include "networks/turn.h"
 
 namespace networks {
+
+// Which twiddle factors are carried out, and on which samples together.
+enum class Twiddles {
+  kNeeded,      // those that aren't 1, on whatever samples take the fewest products
+  kAllRows,     // all of rows j2 >= 1, on samples that the second stage takes together
+  kAllColumns,  // all of columns k1 >= 1, on samples that the first stage leaves together
+};
 
 template <class Form>
 class ComplexDft {
@@ -39,11 +53,19 @@ class ComplexDft {
   using Packed = typename Form::Packed;
   using Block = std::vector<Sample>;
 
-  explicit ComplexDft(Form& form) : form_(form) {}
+  // Transforms the samples of some blocks, in natural order, with root exp(-2 pi i / length).
+  using Leaf = std::function<std::vector<Packed>(const Tree&, const std::vector<Packed>&)>;
+
+  // Leaves are short_dft.h's unless told otherwise.
+  explicit ComplexDft(Form& form, Leaf leaf = nullptr, Twiddles twiddles = Twiddles::kNeeded)
+      : form_(form), leaf_(std::move(leaf)), twiddles_(twiddles) {
+    if (!leaf_) leaf_ = [](const Tree&, const std::vector<Packed>& x) { return short_dft(x); };
+  }
 
   // The DFT of `input` with root exp(-2 pi i * exponent / length), exponent and length coprime:
-  // 1 is the forward transform, -1 the inverse one.
-  Block run(const Tree& tree, const Block& input, int exponent) {
+  // 1 is the forward transform, -1 the inverse one. Names of stages begin with `stages`.
+  Block run(const Tree& tree, const Block& input, int exponent, const std::string& stages = "") {
+    stages_ = stages;
     return transform(tree, {input}, {{0}}, exponent)[0];
   }
 
@@ -62,9 +84,10 @@ class ComplexDft {
       case Tree::Kind::kPrimeFactor:
         return prime_factor(tree, blocks, groups, exponent);
       case Tree::Kind::kLeaf:
-        break;
+        return leaves(tree, blocks, groups, exponent);
+      default:
+        throw std::invalid_argument("no complex transform: " + to_string(tree));
     }
-    return leaves(tree.length, blocks, groups, exponent);
   }
 
   // Input index b * j1 + j2, output index k1 + a * k2.
@@ -158,9 +181,9 @@ class ComplexDft {
     Groups result;
     Group alone;
     for (int block = 0; block < count; ++block) {
-      const Groups together = packed_together(columns[block]);
+      const Groups together = packed_together(form_, columns[block]);
       for (int j2 = 1; j2 < b; ++j2) {
-        if (packed_together(columns[j2 * count + block]) != together) return {};
+        if (packed_together(form_, columns[j2 * count + block]) != together) return {};
       }
       for (const Group& group : together) {
         Group& rows = group.size() == 1 ? alone : result.emplace_back();
@@ -175,24 +198,10 @@ class ComplexDft {
     return result;
   }
 
-  // The indices of samples that lie in one pack, in the order of their places there.
-  Groups packed_together(const Block& samples) {
-    std::map<int, std::map<int, int>> packs;
-    for (int k = 0; k < static_cast<int>(samples.size()); ++k) {
-      packs[form_.pack_of(samples[k])][form_.place_in_pack(samples[k])] = k;
-    }
-    Groups result;
-    for (const auto& [pack, places] : packs) {
-      Group& group = result.emplace_back();
-      for (const auto& [place, k] : places) group.push_back(k);
-    }
-    std::sort(result.begin(), result.end());
-    return result;
-  }
-
   // The short transforms.
-  Blocks leaves(int length, const Blocks& blocks, const Groups& groups, int exponent) {
-    last_stage_ = std::string(1, static_cast<char>('a' + stage_count_++));
+  Blocks leaves(const Tree& tree, const Blocks& blocks, const Groups& groups, int exponent) {
+    const int length = tree.length;
+    last_stage_ = stages_ + static_cast<char>('a' + stage_count_++);
     form_.begin_stage(last_stage_, std::to_string(blocks.size()) +
                                        (blocks.size() == 1 ? " block" : " blocks") + " of " +
                                        std::to_string(length) + " points");
@@ -214,7 +223,7 @@ class ComplexDft {
         for (int block : group) samples.push_back(blocks[block][j]);
         x.push_back(form_.pack(samples));
       }
-      const std::vector<Packed> y = short_dft(x);
+      const std::vector<Packed> y = leaf_(tree, x);
       for (int k = 0; k < length; ++k) {
         for (std::size_t i = 0; i < group.size(); ++i) {
           result[group[i]].push_back(form_.unpack(y[source(k)], static_cast<int>(i)));
@@ -234,24 +243,50 @@ class ComplexDft {
   void twiddle(Blocks& columns, const Groups& row_groups, int a, int b, int exponent) {
     const int count = static_cast<int>(columns.size()) / b;
     form_.begin_stage(last_stage_ + "w", "twiddle factors of length " + std::to_string(a * b));
-    for (const Pack& pack : twiddle_packs(columns, row_groups, b)) {
+    for (const Pack& pack : packs_to_multiply(columns, row_groups, b)) {
       std::vector<Turn> turns;
+      std::vector<ComplexNumber> table;  // both directions use that of the positive exponent
       std::vector<Sample> samples;
+      bool uniform = true;
       for (const auto& [column, k1] : pack) {
-        turns.emplace_back(-static_cast<long>(exponent) * (column / count) * k1, a * b);
+        const long turn = -static_cast<long>(exponent) * (column / count) * k1;
+        turns.emplace_back(turn, a * b);
+        table.push_back(Turn(exponent < 0 ? -turn : turn, a * b).root());
         samples.push_back(columns[column][k1]);
+        uniform = uniform && turns.back() == turns.front();
       }
-      const Packed product = form_.twiddle(form_.pack(samples), turns);
+      const Packed packed = form_.pack(samples);
+      const bool in_full = twiddles_ != Twiddles::kNeeded && !uniform;
+      const Packed product =
+          in_full ? form_.multiply(packed, table, exponent < 0) : form_.twiddle(packed, turns);
       for (std::size_t i = 0; i < pack.size(); ++i) {
         columns[pack[i].column][pack[i].k1] = form_.unpack(product, static_cast<int>(i));
       }
     }
   }
 
+  std::vector<Pack> packs_to_multiply(const Blocks& columns, const Groups& row_groups, int b) {
+    const int count = static_cast<int>(columns.size()) / b;
+    std::vector<Pack> packs;
+    switch (twiddles_) {
+      case Twiddles::kNeeded:
+        return fewest_packs(columns, row_groups, b);
+      case Twiddles::kAllRows:
+        packs = packs_as_taken(row_groups, b, count);
+        std::erase_if(packs, [&](const Pack& pack) { return pack.front().column < count; });
+        return packs;
+      case Twiddles::kAllColumns:
+        packs = packs_as_left(columns);
+        std::erase_if(packs, [&](const Pack& pack) { return pack.front().k1 == 0; });
+        return packs;
+    }
+    return packs;
+  }
+
   // Samples are multiplied together that the first stage leaves in one pack, or that the second
   // stage takes in one. The latter serve where the former mix samples that have a factor with
   // samples that have none, if they are fewer, or everywhere.
-  std::vector<Pack> twiddle_packs(const Blocks& columns, const Groups& row_groups, int b) {
+  std::vector<Pack> fewest_packs(const Blocks& columns, const Groups& row_groups, int b) {
     const int count = static_cast<int>(columns.size()) / b;
     const auto has_factor = [&](const Place& place) {
       return place.column >= count && place.k1 > 0;
@@ -295,7 +330,11 @@ class ComplexDft {
       for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
         const int pack = form_.pack_of(columns[column][k1]);
         const auto [at, is_new] = known.try_emplace(pack, packs.size());
-        if (is_new) packs.emplace_back();
+        // A sample of a block that is mostly zero may stand in several rows.
+        if (is_new || packs[at->second].size() == Form::kWidth) {
+          at->second = packs.size();
+          packs.emplace_back();
+        }
         packs[at->second].push_back({column, k1});
       }
     }
@@ -314,8 +353,10 @@ class ComplexDft {
   }
 
   Form& form_;
+  Leaf leaf_;
+  Twiddles twiddles_;
   int stage_count_ = 0;
-  std::string last_stage_;
+  std::string stages_, last_stage_;
 };
 
 }  // namespace networks

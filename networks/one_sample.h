@@ -22,10 +22,16 @@ class OneSample {
 
   Packed pack(const std::vector<Sample>& samples) { return samples[0]; }
   Sample unpack(const Packed& packed, int) { return packed; }
+  Sample zero() const { return {}; }
   int pack_of(const Sample&) { return next_pack_++; }
   int place_in_pack(const Sample&) { return 0; }
   bool goes_in_lanes(const std::vector<Sample>&) { return false; }
   std::vector<Sample> leaf_in_lanes(const std::vector<Sample>& block) { return block; }
+  Packed multiply(const Packed& z, const std::vector<ComplexNumber>& constants,
+                  bool conjugate = false) {
+    const Number re = constants[0].re, im = conjugate ? -constants[0].im : constants[0].im;
+    return {re * z.re - im * z.im, re * z.im + im * z.re};
+  }
   Packed twiddle(const Packed& z, const std::vector<Turn>& turns) { return rotate(z, turns[0]); }
   bool choose() { return false; }
   void begin_stage(const std::string& name, const std::string& description) {

@@ -24,7 +24,8 @@ struct Turn {
   friend bool operator==(const Turn&, const Turn&) = default;
 };
 
-// z * root, with the signs of the root's parts kept outside the constants.
+// z * root, with the signs of the root's parts kept outside the constants. An odd multiple of 45
+// degrees has parts of one magnitude, which takes one product of z.
 template <class C>
 C rotate(const C& z, const Turn& turn) {
   switch (turn.denominator) {
@@ -36,6 +37,11 @@ C rotate(const C& z, const Turn& turn) {
       return turn.numerator == 3 ? minus_i(z) : -minus_i(z);
   }
   const ComplexNumber w = turn.root();
+  if (turn.denominator == 8) {
+    const C product = w.re.magnitude() * z;
+    const C turned = minus_i(product);
+    return (w.re.is_negative() ? -product : product) + (w.im.is_negative() ? turned : -turned);
+  }
   return w.re * z - w.im * minus_i(z);
 }
 

@@ -9,13 +9,17 @@ namespace {
 // (im, re) of every sample.
 SamplePair swapped(const SamplePair& z) {
   const gen::NodeId node = z.v.value.node;
-  const gen::Value value = z.v.graph->lanes({{node, 1}, {node, 0}, {node, 3}, {node, 2}});
+  std::vector<gen::Lane> lanes;
+  for (int lane = 0; lane < (*z.v.graph)[node].lane_count; ++lane)
+    lanes.push_back({node, lane ^ 1});
+  const gen::Value value = z.v.graph->lanes(lanes);
   return {{z.v.graph, z.v.value.negative ? -value : value}};
 }
 
 }  // namespace
 
 SamplePair minus_i(const SamplePair& z) {
+  if (z.is_zero()) return z;
   const SamplePair s = swapped(z);
   return {{s.v.graph, s.v.graph->flip_signs(s.v.value, 0b1010)}};
 }
@@ -31,11 +35,19 @@ void TwoSamples::output(int k, const Sample& sample) {
 }
 
 TwoSamples::Packed TwoSamples::pack(const std::vector<Sample>& samples) {
+  if (std::all_of(samples.begin(), samples.end(), [](const Sample& s) { return s.is_zero(); })) {
+    return {};
+  }
   std::vector<gen::Lane> lanes;
   unsigned flips = 0;
   for (const Sample& sample : samples) {
     if (sample.negative) flips |= 0b11u << lanes.size();
-    lanes.insert(lanes.end(), {sample.re, sample.im});
+    if (sample.is_zero()) {
+      const gen::NodeId zero = graph_.zero(graph_.sample_precision(), gen::kMaxLanes).node;
+      lanes.insert(lanes.end(), {{zero, 0}, {zero, 1}});
+    } else {
+      lanes.insert(lanes.end(), {sample.re, sample.im});
+    }
   }
   if (samples.size() == 1 && flips != 0) flips = 0b1111;
   lanes.resize(gen::kMaxLanes);
@@ -43,6 +55,7 @@ TwoSamples::Packed TwoSamples::pack(const std::vector<Sample>& samples) {
 }
 
 TwoSamples::Sample TwoSamples::unpack(const Packed& packed, int i) {
+  if (packed.is_zero()) return {};
   const gen::Value& value = packed.v.value;
   return {{value.node, 2 * i}, {value.node, 2 * i + 1}, value.negative};
 }
@@ -99,6 +112,7 @@ std::vector<TwoSamples::Sample> TwoSamples::leaf_in_lanes(const std::vector<Samp
 }
 
 TwoSamples::Packed TwoSamples::twiddle(const Packed& z, const std::vector<Turn>& turns) {
+  if (z.is_zero()) return z;
   const Turn& first = turns.front();
   const Turn& last = turns.back();
   // One factor for both samples rotates the vector as a whole.
@@ -106,12 +120,20 @@ TwoSamples::Packed TwoSamples::twiddle(const Packed& z, const std::vector<Turn>&
   if (first.is_quarter() && last.is_quarter()) {
     return pack({unpack(rotate(z, first), 0), unpack(rotate(z, last), 1)});
   }
-  // Otherwise every lane is multiplied, also by 1 or 0: re * wr - im * wi, im * wr + re * wi, with
-  // the constants' own signs.
-  const ComplexNumber w0 = first.root(), w1 = last.root();
+  return multiply(z, {first.root(), last.root()});
+}
+
+// Every lane is multiplied, also by 1 or 0: re * wr - im * wi, im * wr + re * wi, with the
+// constants' own signs. For the conjugates, sum and difference change places.
+TwoSamples::Packed TwoSamples::multiply(const Packed& z,
+                                        const std::vector<ComplexNumber>& constants,
+                                        bool conjugate) {
+  if (z.is_zero()) return z;
+  const ComplexNumber &w0 = constants.front(), &w1 = constants.back();
   const gen::Value straight = graph_.mul({w0.re, w0.re, w1.re, w1.re}, z.v.value);
   const gen::Value crossed = graph_.mul({w0.im, w0.im, w1.im, w1.im}, swapped(z).v.value);
-  return {{&graph_, graph_.add(straight, graph_.flip_signs(crossed, 0b0101))}};
+  const unsigned flips = conjugate ? 0b1010 : 0b0101;
+  return {{&graph_, graph_.add(straight, graph_.flip_signs(crossed, flips))}};
 }
 
 }  // namespace networks

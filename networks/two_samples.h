@@ -9,14 +9,22 @@
 
 namespace networks {
 
-// A complex value type for the networks: one or two samples that take part in the same operations.
+// A complex value type for the networks: one or two samples, (re, im) of each in neighbouring
+// lanes, that take part in the same operations. Without a graph it stands for zero, and adding or
+// multiplying it is no operation.
 struct SamplePair {
   gen::Expr v;
 
-  SamplePair operator-() const { return {-v}; }
-  friend SamplePair operator+(const SamplePair& a, const SamplePair& b) { return {a.v + b.v}; }
-  friend SamplePair operator-(const SamplePair& a, const SamplePair& b) { return {a.v - b.v}; }
-  friend SamplePair operator*(const Number& factor, const SamplePair& a) { return {factor * a.v}; }
+  bool is_zero() const { return v.graph == nullptr; }
+  SamplePair operator-() const { return is_zero() ? *this : SamplePair{-v}; }
+  friend SamplePair operator+(const SamplePair& a, const SamplePair& b) {
+    if (a.is_zero()) return b;
+    return b.is_zero() ? a : SamplePair{a.v + b.v};
+  }
+  friend SamplePair operator-(const SamplePair& a, const SamplePair& b) { return a + -b; }
+  friend SamplePair operator*(const Number& factor, const SamplePair& a) {
+    return a.is_zero() ? a : SamplePair{factor * a.v};
+  }
 };
 
 SamplePair minus_i(const SamplePair& z);
@@ -33,10 +41,11 @@ enum class Leaves {
 
 class TwoSamples {
  public:
-  // One sample: the lanes that its parts are in.
+  // One sample: the lanes that its parts are in; without lanes it is zero.
   struct Sample {
     gen::Lane re, im;
     bool negative = false;
+    bool is_zero() const { return re.node == gen::kNoNode; }
   };
   using Packed = SamplePair;
   static constexpr int kWidth = 2;
@@ -47,15 +56,19 @@ class TwoSamples {
       : graph_(graph), leaves_(leaves), plan_(std::move(plan)) {}
 
   Sample input(int n);
+  Sample zero() const { return {}; }
   // Scales the sample and makes it sample k of the destination.
   void output(int k, const Sample& sample);
 
   Packed pack(const std::vector<Sample>& samples);
   Sample unpack(const Packed& packed, int i);
-  int pack_of(const Sample& sample) { return sample.re.node; }
+  // Every zero is by itself.
+  int pack_of(const Sample& sample) { return sample.is_zero() ? --last_zero_ : sample.re.node; }
   int place_in_pack(const Sample& sample) { return sample.re.index / 2; }
   bool goes_in_lanes(const std::vector<Sample>& block) const;
   std::vector<Sample> leaf_in_lanes(const std::vector<Sample>& block);
+  Packed multiply(const Packed& z, const std::vector<ComplexNumber>& constants,
+                  bool conjugate = false);
   Packed twiddle(const Packed& z, const std::vector<Turn>& turns);
   bool choose() {
     if (choices_ == plan_.size()) plan_.push_back(false);
@@ -73,6 +86,7 @@ class TwoSamples {
   Leaves leaves_;
   Plan plan_;
   std::size_t choices_ = 0;
+  int last_zero_ = gen::kNoNode;
 };
 
 }  // namespace networks

@@ -4,6 +4,7 @@
 set -eu
 build=$1
 generate=$build/bin/zulgen-generate
+shards="--shards dft_complex_32fc=3 --shards dft_complex_64fc=2"
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 
@@ -11,11 +12,12 @@ fail() { echo "$1" >&2; exit 1; }
 
 mkdir "$work/a" "$work/b"
 for out in a b; do
-  "$generate" --out "$work/$out" --shards dft_complex_32fc=3
+  # shellcheck disable=SC2086
+  "$generate" --out "$work/$out" $shards
 done
 diff -r "$work/a" "$work/b" || fail "two runs give different files"
 touch -d '1 hour ago' "$work"/a/*
-"$generate" --out "$work/a" --shards dft_complex_32fc=3
+"$generate" --out "$work/a" $shards
 [ -z "$(find "$work/a" -type f -mmin -30)" ] || fail "unchanged files were written again"
 
 name=zulgDFTInv_CToC_12_32fc
@@ -31,5 +33,5 @@ for wrong in "" "--recipe" "--recipe none" "--out" "--sing" "--out $work --shard
   [ "$code" -eq 2 ] && [ -s "$work/error" ] || fail "no usage error for: $wrong"
 done
 code=0
-"$generate" --out /nonexistent/directory --shards dft_complex_32fc=1 2>"$work/error" || code=$?
+"$generate" --out /nonexistent/directory $shards 2>"$work/error" || code=$?
 [ "$code" -eq 1 ] && grep -q "can't write" "$work/error" || fail "a file that can't be written"

@@ -39,10 +39,10 @@ zulgResult call(const Subject& subject, const void* source, void* destination, z
   return bare_call(subject.function, source, destination, flag, 0, &broken);
 }
 
-// The destination after a call with both arrays aligned, or as the offsets say.
-std::vector<double> run(const Subject& subject, const std::vector<double>& input,
-                        zulgScaleFlag flag, unsigned source_offset = 0,
-                        unsigned destination_offset = 0) {
+// The destination after a call with the arrays at these offsets.
+std::vector<double> run_at(const Subject& subject, const std::vector<double>& input,
+                           zulgScaleFlag flag, unsigned source_offset,
+                           unsigned destination_offset) {
   PlacedArray source(subject.source_bytes(), source_offset);
   PlacedArray destination(subject.destination_bytes(), destination_offset);
   store_elements(subject, input, source.get());
@@ -59,6 +59,11 @@ std::vector<double> run_in_place(const Subject& subject, const std::vector<doubl
 }
 
 }  // namespace
+
+std::vector<double> run(const Subject& subject, const std::vector<double>& source,
+                        zulgScaleFlag flag) {
+  return run_at(subject, source, flag, 0, 0);
+}
 
 double relative_error(const Subject& subject, const Reference& reference) {
   constexpr int kInputs = 100;
@@ -102,7 +107,8 @@ Findings check_alignment(const Subject& subject) {
     const std::vector<double> expected = run(subject, input, ZULG_SCALE_BY_SQRT_N);
     for (unsigned source = 0; source < 16; source += step) {
       for (unsigned destination = 0; destination < 16; destination += step) {
-        if (!same_bits(run(subject, input, ZULG_SCALE_BY_SQRT_N, source, destination), expected)) {
+        if (!same_bits(run_at(subject, input, ZULG_SCALE_BY_SQRT_N, source, destination),
+                       expected)) {
           findings.push_back("other bits at offsets " + std::to_string(source) + " and " +
                              std::to_string(destination));
         }

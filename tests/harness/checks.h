@@ -14,6 +14,10 @@ using Reference = std::function<std::vector<gen::Quad>(const std::vector<double>
 // or 2^-53).
 double relative_error(const Subject& subject, const Reference& reference);
 
+// The destination after a call with aligned arrays.
+std::vector<double> run(const Subject& subject, const std::vector<double>& source,
+                        zulgScaleFlag flag);
+
 // Equal bit for bit to its own data flow, interpreted, under every flag and on every kind of data.
 Findings check_bits(const Subject& subject);
 
