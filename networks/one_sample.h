@@ -18,11 +18,11 @@ class OneSample {
 
   OneSample() = default;
   // The values are nodes of `graph`.
-  explicit OneSample(gen::Graph& graph) : graph_(&graph) {}
+  explicit OneSample(gen::Graph& graph, const Sample& zero = {}) : graph_(&graph), zero_(zero) {}
 
   Packed pack(const std::vector<Sample>& samples) { return samples[0]; }
   Sample unpack(const Packed& packed, int) { return packed; }
-  Sample zero() const { return {}; }
+  Sample zero() const { return zero_; }
   int pack_of(const Sample&) { return next_pack_++; }
   int place_in_pack(const Sample&) { return 0; }
   bool goes_in_lanes(const std::vector<Sample>&) { return false; }
@@ -40,6 +40,7 @@ class OneSample {
 
  private:
   gen::Graph* graph_ = nullptr;
+  Sample zero_ = {};
   int next_pack_ = 0;
 };
 

@@ -163,7 +163,8 @@ TEST(ComplexKernels, HaveTheValuesOfThePlainNetwork) {
     for (int n = 0; n < kernel.length; ++n) {
       samples.push_back({{&graph, graph.input(2 * n)}, {&graph, graph.input(2 * n + 1)}});
     }
-    networks::OneSample<gen::Expr> form(graph);
+    const gen::Expr zero = {&graph, graph.zero(kernel.precision)};
+    networks::OneSample<gen::Expr> form(graph, {zero, zero});
     const auto spectrum = dft_complex::transform_32fc(form, networks::parse_tree(kernel.recipe),
                                                       samples, exponent_of(kernel));
     for (int k = 0; k < kernel.length; ++k) {
