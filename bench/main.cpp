@@ -5,16 +5,14 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <limits>
 #include <memory>
-#include <random>
 #include <string>
 
+#include "bench/arrays.h"
 #include "bench/clock.h"
 #include "bench/fftw_peer.h"
 #include "gen/manifest.h"
-#include "zulgen.h"
 
 namespace {
 
@@ -32,8 +30,6 @@ struct Options {
   std::string csv;
 };
 
-using KernelFunction = zulgResult (*)(const void*, void*, zulgScaleFlag);
-
 // The least of some figures; NaN if there is none.
 double best(const std::vector<double>& cycles, std::size_t first, std::size_t last) {
   double result = std::numeric_limits<double>::quiet_NaN();
@@ -41,37 +37,15 @@ double best(const std::vector<double>& cycles, std::size_t first, std::size_t la
   return result;
 }
 
-// Arrays large enough for any kernel, on a cache line of their own.
-struct Arrays {
-  alignas(64) char source[2048];
-  alignas(64) char destination[2048];
-
-  void fill(gen::Precision precision) {
-    std::mt19937 random(1);
-    std::uniform_real_distribution<double> uniform(-1, 1);
-    const std::size_t size = precision == gen::Precision::kSingle ? sizeof(float) : sizeof(double);
-    for (std::size_t at = 0; at < sizeof source; at += size) {
-      const double value = uniform(random);
-      const float single = static_cast<float>(value);
-      std::memcpy(source + at, size == sizeof single ? static_cast<const void*>(&single) : &value,
-                  size);
-    }
-  }
-};
-
 struct Figures {
   double ours, sse2, installed;
 };
 
 Figures measure(const bench::Clock& clock, const gen::Kernel& kernel, const Options& options,
                 bench::FftwPeer* sse2, bench::FftwPeer* installed) {
-  static Arrays arrays;
-  const auto function = reinterpret_cast<KernelFunction>(dlsym(RTLD_DEFAULT, kernel.name.c_str()));
-  std::vector<bench::Contender> contenders = {[function](int calls) {
-    for (int call = 0; call < calls; ++call) {
-      function(arrays.source, arrays.destination, ZULG_SCALE_NONE);
-    }
-  }};
+  static bench::Arrays arrays;
+  std::vector<bench::Contender> contenders = {
+      bench::calls_of(dlsym(RTLD_DEFAULT, kernel.name.c_str()), arrays)};
   const auto add_plans = [&](bench::FftwPeer* peer) {
     if (peer == nullptr) return;
     for (auto& plan : peer->plans(kernel, arrays.source, arrays.destination, options.plans)) {

@@ -30,9 +30,21 @@ std::string scale_table(const Kernel& kernel) {
   const bool single = kernel.precision == Precision::kSingle;
   const auto literal = single ? float_literal : double_literal;
   const std::string by_n = literal(one_over_n(kernel.length)), one = literal(1);
-  const bool forward = kernel.scale_rule == ScaleRule::kForward;
+  const bool forward = kernel.scale_rule != ScaleRule::kInverse;
+  const bool inverse = kernel.scale_rule != ScaleRule::kForward;
   return "  static constexpr auto kScale = scale_factors(" + (forward ? by_n : one) + ", " +
-         (forward ? one : by_n) + ", " + literal(one_over_sqrt_n(kernel.length)) + ");\n";
+         (inverse ? by_n : one) + ", " + literal(one_over_sqrt_n(kernel.length)) + ");\n";
+}
+
+std::string arguments_of(const Kernel& kernel) {
+  return "(const " + kernel.source_type + "* source, " + kernel.destination_type +
+         "* destination, zulgScaleFlag flag)";
+}
+
+std::string emit_alias(const Kernel& kernel) {
+  return "// " + kernel.name + " is " + kernel.same_as + ".\nZULGEN_EXPORT zulgResult " +
+         kernel.name + arguments_of(kernel) + "\n    __attribute__((alias(\"" + kernel.same_as +
+         "\")));\n";
 }
 
 }  // namespace
@@ -47,12 +59,12 @@ Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
 std::string emit_kernel(const Kernel& kernel) {
+  if (!kernel.same_as.empty()) return emit_alias(kernel);
   const Graph graph = kernel.graph();
   const Graph code = lowered(graph, kernel.source_elements);
   const std::string element = kernel.precision == Precision::kSingle ? "float" : "double";
   const bool vectors = kernel.bodies != Bodies::kOne;
-  const std::string arguments = "(const " + kernel.source_type + "* source, " +
-                                kernel.destination_type + "* destination, zulgScaleFlag flag)";
+  const std::string arguments = arguments_of(kernel);
   const std::string body_name = kernel.name.substr(4);
   const std::string scale = vectors ? (element == "float" ? "allF4(" : "allD2(") : "(";
 

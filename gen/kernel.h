@@ -11,7 +11,7 @@
 namespace gen {
 
 // Which flag selects the factor 1 / N.
-enum class ScaleRule { kForward, kInverse };
+enum class ScaleRule { kForward, kInverse, kBoth };
 
 // How a kernel serves arrays that aren't aligned on 16 bytes.
 enum class Bodies {
@@ -31,6 +31,9 @@ struct Kernel {
   // The C types of what the pointers point to, and how many elements of `precision` are there.
   std::string source_type, destination_type;
   int source_elements = 0, destination_elements = 0;
+
+  // An exported function that does the very same, for this name to stand for; or empty.
+  std::string same_as;
 
   Bodies bodies = Bodies::kOne;
   Order order;

@@ -3,10 +3,18 @@
 #include <algorithm>
 
 #include "dft_complex/dft_complex.h"
+#include "dft_real/dft_real.h"
+#include "hartley/hartley.h"
 
 namespace gen {
 
-std::vector<Kernel> all_kernels() { return dft_complex::kernels(); }
+std::vector<Kernel> all_kernels() {
+  std::vector<Kernel> result;
+  for (const auto& family : {dft_complex::kernels(), dft_real::kernels(), hartley::kernels()}) {
+    result.insert(result.end(), family.begin(), family.end());
+  }
+  return result;
+}
 
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion"};

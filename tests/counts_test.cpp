@@ -1,10 +1,10 @@
-// The arithmetic of every kernel against the tables of wanted counts.
+// The arithmetic of the complex kernels against the tables of wanted counts.
 #include <gtest/gtest.h>
 
 #include <map>
 
+#include "dft_complex/dft_complex.h"
 #include "gen/count.h"
-#include "gen/manifest.h"
 #include "networks/tree.h"
 
 namespace {
@@ -56,7 +56,7 @@ const std::map<int, Row> kPrime64fc = {
 };
 
 TEST(Counts, EqualTheTables) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const bool single = kernel.precision == gen::Precision::kSingle;
     const auto& composite = single ? kComposite32fc : kComposite64fc;
     const auto row = composite.find(kernel.length);
@@ -79,7 +79,7 @@ TEST(Counts, EqualTheTables) {
 // Prime lengths of two samples a vector are counted with what idle lanes carry. How many zeros are
 // added in the lane beside x[0] is the one thing that the arrangement settles.
 TEST(Counts, OfPrimeLengthsIncludeIdleLanes) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const auto row = kPrime32fc.find(kernel.length);
     if (kernel.precision != gen::Precision::kSingle || row == kPrime32fc.end()) continue;
     const gen::Counts counts = gen::count_carried_operations(kernel.graph());
@@ -99,7 +99,7 @@ TEST(Counts, OfPrimeLengthsIncludeIdleLanes) {
 // In single precision, only lengths 3 and 5 hold double precision, and only where constants are.
 TEST(Counts, ConversionsStandInTheScalarKernelsAlone) {
   const std::map<int, std::pair<int, int>> widened_and_rounded = {{3, {6, 4}}, {5, {10, 8}}};
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const gen::Graph graph = kernel.graph();
     std::pair<int, int> conversions, expected;
     for (gen::NodeId id = 0; id < graph.size(); ++id) {
@@ -116,7 +116,7 @@ TEST(Counts, ConversionsStandInTheScalarKernelsAlone) {
 
 // Until their last combination, no value of a double-precision kernel depends on both lanes.
 TEST(Counts, DoublePrecisionKernelsSwapOnceAPairOfBins) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     if (kernel.precision != gen::Precision::kDouble) continue;
     const gen::Graph graph = kernel.graph();
     const std::vector<bool> live = graph.live_nodes();

@@ -41,7 +41,7 @@ check_library libzulgens8.so.6.1 ""
 "$build/bin/zulgen-generate" --list | sort >"$work/manifest"
 expect "exports that aren't in the manifest, or the reverse" \
   "$(comm -3 "$work/exports" "$work/manifest" | xargs)" ""
-grep -ohE 'zulg(enGet|DFT)[A-Za-z0-9_]+' "$source"/include/zulgen/*.h |
+grep -ohE 'zulg(enGet|DFT|Hartley)[A-Za-z0-9_]+' "$source"/include/zulgen/*.h |
   grep -vE '_N_' | sort -u >"$work/header"
 expect "functions that the header doesn't declare, or doesn't have" \
   "$(comm -3 "$work/header" "$work/manifest" | xargs)" ""
