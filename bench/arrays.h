@@ -15,6 +15,8 @@ struct Arrays {
   alignas(64) char source[2048];
   alignas(64) char destination[2048];
 
+  void clear() { std::memset(source, 0, sizeof source); }
+
   void fill(gen::Precision precision) {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> uniform(-1, 1);

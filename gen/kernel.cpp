@@ -66,7 +66,9 @@ std::string emit_kernel(const Kernel& kernel) {
   const bool vectors = kernel.bodies != Bodies::kOne;
   const std::string arguments = arguments_of(kernel);
   const std::string body_name = kernel.name.substr(4);
-  const std::string scale = vectors ? (element == "float" ? "allF4(" : "allD2(") : "(";
+  const std::string factor = "kScale.by_flag[flag]";
+  const std::string scale =
+      vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
   std::ostringstream text;
   text << heading(kernel, graph);
@@ -78,7 +80,7 @@ std::string emit_kernel(const Kernel& kernel) {
   text << "  if (result != ZULG_OK) return result;\n";
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
-  text << "  const auto s = " << scale << "kScale.by_flag[flag]);\n\n";
+  text << "  const auto s = " << scale << ";\n\n";
   BodyStyle style;
   style.memory_policy = vectors;
   text << emit_body(code, schedule(code, kernel.order), style);
