@@ -7,7 +7,7 @@ set_target_properties(zulgen_kernels PROPERTIES
   CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 
 zulgen_shared_library(TARGET zulgens8 NAME zulgens8 EXPORTS ${ZULGEN_EXPORTS}
-  SOURCES frame/version.cpp $<TARGET_OBJECTS:zulgen_kernels>)
+  SOURCES frame/version.cpp ${ZULGEN_DISPATCH_SOURCES} $<TARGET_OBJECTS:zulgen_kernels>)
 target_include_directories(zulgens8 PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(zulgens8 PRIVATE zulgen_library_code)
 

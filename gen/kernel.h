@@ -36,6 +36,8 @@ struct Kernel {
   std::string same_as;
 
   Bodies bodies = Bodies::kOne;
+  // Whether the caller may pass a fourth argument, a work buffer.
+  bool has_work_argument = false;
   Order order;
   // The data flow, as the network gives it.
   std::function<Graph()> graph;

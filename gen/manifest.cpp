@@ -4,6 +4,7 @@
 
 #include "dft_complex/dft_complex.h"
 #include "dft_real/dft_real.h"
+#include "gen/dispatch.h"
 #include "hartley/hartley.h"
 
 namespace gen {
@@ -18,7 +19,9 @@ std::vector<Kernel> all_kernels() {
 
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion"};
-  for (const Kernel& kernel : all_kernels()) names.push_back(kernel.name);
+  const std::vector<Kernel> kernels = all_kernels();
+  for (const Kernel& kernel : kernels) names.push_back(kernel.name);
+  for (const DispatchEntry& entry : dispatch_entries(kernels)) names.push_back(entry.name);
   std::sort(names.begin(), names.end());
   return names;
 }

@@ -10,7 +10,7 @@ namespace gen {
 
 std::vector<Kernel> all_kernels();
 
-// The kernels and the functions written by hand, sorted.
+// The kernels, their dispatch entries and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();
 
 }  // namespace gen

@@ -8,6 +8,7 @@
  *   zulgen/dft_real_forward.h  real DFT to a packed spectrum
  *   zulgen/dft_real_inverse.h  and back
  *   zulgen/hartley.h           Hartley transform
+ *   zulgen/dispatch.h          all of these, of a length known at run time only
  *
  * Every function is safe to call from any number of threads at once, as long as no two calls write
  * to the same array. None prints, exits, allocates or keeps anything after it returns.
@@ -20,6 +21,7 @@
 #include "zulgen/dft_complex.h"
 #include "zulgen/dft_real_forward.h"
 #include "zulgen/dft_real_inverse.h"
+#include "zulgen/dispatch.h"
 #include "zulgen/hartley.h"
 #include "zulgen/version.h"
 
