@@ -65,13 +65,12 @@ void expect_one(const Source& source, ByTemplate by_template, ByLength by_length
 template <class Real, std::size_t N, Layout kLayout>
 void check_layout() {
   constexpr std::size_t kSize = zulgen::spectrum_size(kLayout, N);
-  constexpr auto kIndex = static_cast<std::size_t>(kLayout);
   expect_one<kSize>(random_numbers<Real, N>(), SPANS((zulgen::real_dft_forward<N, kLayout>)),
                     SPANS(zulgen::real_dft_forward<kLayout>),
-                    POINTERS(C<Real>::real_forward[kIndex], Real, N));
+                    POINTERS(C<Real>::real_forward[static_cast<int>(kLayout)], Real, N));
   expect_one<N>(random_numbers<Real, kSize>(), SPANS((zulgen::real_dft_inverse<N, kLayout>)),
                 SPANS(zulgen::real_dft_inverse<kLayout>),
-                POINTERS(C<Real>::real_inverse[kIndex], Real, N));
+                POINTERS(C<Real>::real_inverse[static_cast<int>(kLayout)], Real, N));
 }
 
 template <class Real, std::size_t N>
