@@ -8,11 +8,17 @@ file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/hartley/*.cpp)
 list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
 
-add_executable(zulgen-generate gen/main.cpp ${ZULGEN_CODEGEN_SOURCES})
-target_include_directories(zulgen-generate PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(zulgen-generate PRIVATE zulgen_program)
-# Its assertions are cheap, and stay.
-target_compile_options(zulgen-generate PRIVATE -UNDEBUG)
+set(ZULGEN_GENERATOR "" CACHE FILEPATH "A generator that is built already, to be used instead")
+if(ZULGEN_GENERATOR)
+  add_executable(zulgen-generate IMPORTED)
+  set_target_properties(zulgen-generate PROPERTIES IMPORTED_LOCATION ${ZULGEN_GENERATOR})
+else()
+  add_executable(zulgen-generate gen/main.cpp ${ZULGEN_CODEGEN_SOURCES})
+  target_include_directories(zulgen-generate PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(zulgen-generate PRIVATE zulgen_program)
+  # Its assertions are cheap, and stay.
+  target_compile_options(zulgen-generate PRIVATE -UNDEBUG)
+endif()
 
 # The same code for 32-bit programs that ask what the library holds: the tests, the benchmark.
 add_library(codegen32 STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})
