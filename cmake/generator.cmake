@@ -4,6 +4,10 @@ file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/gen/*.cpp
   ${PROJECT_SOURCE_DIR}/networks/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp)
+list(APPEND ZULGEN_CODEGEN_SOURCES
+  ${PROJECT_SOURCE_DIR}/wht/kernels.cpp
+  ${PROJECT_SOURCE_DIR}/wht/graphs.cpp
+  ${PROJECT_SOURCE_DIR}/wht/bodies.cpp)
 list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
 
 add_executable(zulgen-generate gen/main.cpp ${ZULGEN_CODEGEN_SOURCES})
@@ -18,13 +22,14 @@ target_include_directories(codegen32 PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(codegen32 PUBLIC zulgen_m32 zulgen_program)
 
 # The files that every family's kernels are spread over.
-set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12)
+set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12 wht_32f=1 wht_64f=1)
 set(ZULGEN_ORDER "" CACHE STRING
   "Schedule all kernels in this order instead of their own, for measuring (\"bisect 3\")")
 
 set(ZULGEN_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
 file(MAKE_DIRECTORY ${ZULGEN_GENERATED_DIR})
 set(ZULGEN_EXPORTS ${ZULGEN_GENERATED_DIR}/zulgens8.map)
+set(ZULGEN_BODY_HEADERS ${ZULGEN_GENERATED_DIR}/wht_bodies.h)
 set(ZULGEN_KERNEL_SOURCES)
 set(arguments --out ${ZULGEN_GENERATED_DIR})
 foreach(shards IN LISTS ZULGEN_SHARDS)
@@ -41,7 +46,7 @@ endif()
 
 # Only files that change are written, so that a change in one family compiles that family alone.
 add_custom_command(
-  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_EXPORTS}
+  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_BODY_HEADERS} ${ZULGEN_EXPORTS}
   COMMAND zulgen-generate ${arguments}
   DEPENDS zulgen-generate
   COMMENT "Generating the kernels"

@@ -132,16 +132,22 @@ class BodyWriter {
     const int count = graph_[id].lane_count / (form.move == Move::kLoad ? 1 : 2);
     std::vector<int> result;
     for (int i = 0; i < count; ++i) result.push_back(form.element + i);
+    if (form.move == Move::kLoadHalves) {
+      for (int i = 0; i < count; ++i) result.push_back(form.high_element + i);
+    }
     return result;
   }
 
-  const char* load_suffix(NodeId id) const {
+  std::string load_suffix(NodeId id) const {
     if (graph_[id].op != Op::kLanes) return "";
-    switch (single_move(graph_, id)->move) {
+    const MoveForm form = *single_move(graph_, id);
+    switch (form.move) {
       case Move::kLoadLow:
         return "_low";
       case Move::kLoadTwice:
         return "_twice";
+      case Move::kLoadHalves:
+        return "_" + std::to_string(form.high_element);
       default:
         return "";
     }
@@ -232,6 +238,9 @@ class BodyWriter {
         return "load_low(" + address + ")";
       case Move::kLoadTwice:
         return "load_twice(" + address + ")";
+      case Move::kLoadHalves:
+        return "load_halves(" + address + ", " + style_.source + " + " +
+               std::to_string(form->high_element) + ")";
       case Move::kUnpackLow:
         return call("unpack_low");
       case Move::kUnpackHigh:

@@ -20,6 +20,7 @@ void write_library(const std::string& directory, const Shards& shards,
   }
   std::map<std::string, std::size_t> next_shard;
   for (Kernel& kernel : all_kernels()) {
+    if (!kernel.is_generated) continue;
     const auto family = sources.find(kernel.family);
     if (family == sources.end()) throw std::runtime_error("no shards for " + kernel.family);
     if (order) kernel.order = *order;
@@ -32,6 +33,9 @@ void write_library(const std::string& directory, const Shards& shards,
       write_if_changed(directory + "/" + family + "." + std::to_string(shard) + ".cpp",
                        texts[shard] + "\n}  // namespace zulgen\n");
     }
+  }
+  for (const auto& [name, text] : body_headers(order)) {
+    write_if_changed(directory + "/" + name, text);
   }
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";

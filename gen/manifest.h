@@ -1,6 +1,8 @@
 // The manifest: every kernel of the library, and every function that it exports.
 #pragma once
 
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +11,10 @@
 namespace gen {
 
 std::vector<Kernel> all_kernels();
+
+// Generated bodies that code written by hand includes, by the name of their header; `order`
+// replaces every body's own.
+std::map<std::string, std::string> body_headers(const std::optional<Order>& order);
 
 // The kernels and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();

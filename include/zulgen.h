@@ -5,9 +5,11 @@
  *   zulgen/types.h        result codes, scale flags, sample types
  *   zulgen/version.h      which library this is
  *   zulgen/dft_complex.h  complex DFT, forward and inverse
+ *   zulgen/wht.h          Walsh-Hadamard transform
  *
  * Every function is safe to call from any number of threads at once, as long as no two calls write
- * to the same array. None prints, exits, allocates or keeps anything after it returns.
+ * to the same array. None prints, exits or keeps anything after it returns. None allocates, but for
+ * the long Walsh-Hadamard transforms if they are given no work buffer.
  */
 #ifndef ZULGEN_H
 #define ZULGEN_H
@@ -16,5 +18,6 @@
 
 #include "zulgen/dft_complex.h"
 #include "zulgen/version.h"
+#include "zulgen/wht.h"
 
 #endif

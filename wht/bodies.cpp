@@ -1,0 +1,86 @@
+// The bodies of the long orders' passes, as C++.
+#include <sstream>
+
+#include "gen/count.h"
+#include "gen/emit.h"
+#include "wht/wht.h"
+
+namespace wht {
+namespace {
+
+using gen::Graph;
+using gen::Precision;
+
+enum class Kind { kRow, kColumn, kScaledColumn };
+
+struct Body {
+  Kind kind;
+  Precision precision;
+  int size;           // log2 of a row's samples; a column's rows
+  const char* order;  // the fastest order of the statements
+};
+
+// What the plans ask for.
+constexpr Body kBodies[] = {
+    {Kind::kRow, Precision::kSingle, 5, "bisect 0"},
+    {Kind::kRow, Precision::kSingle, 6, "bisect 0"},
+    {Kind::kColumn, Precision::kSingle, 8, "bisect 0"},
+    {Kind::kScaledColumn, Precision::kSingle, 8, "bisect 0"},
+    {Kind::kScaledColumn, Precision::kSingle, 16, "bisect 0"},
+    {Kind::kScaledColumn, Precision::kSingle, 32, "bisect 0"},
+    {Kind::kRow, Precision::kDouble, 5, "bisect 0"},
+    {Kind::kRow, Precision::kDouble, 7, "bisect 0"},
+    {Kind::kColumn, Precision::kDouble, 8, "bisect 0"},
+    {Kind::kScaledColumn, Precision::kDouble, 8, "bisect 0"},
+    {Kind::kScaledColumn, Precision::kDouble, 16, "bisect 0"},
+};
+
+Graph graph_of(const Body& body) {
+  if (body.kind == Kind::kRow) return row_graph(body.precision, body.size);
+  return column_graph(body.precision, body.size, body.kind == Kind::kScaledColumn);
+}
+
+std::string emit(const Body& body, const std::optional<gen::Order>& other_order) {
+  const bool single = body.precision == Precision::kSingle;
+  const bool is_row = body.kind == Kind::kRow;
+  const std::string element = single ? "float" : "double";
+  const Graph graph = graph_of(body);
+  const Graph code = gen::lowered(graph, static_cast<int>(graph.outputs().size()), true);
+  const gen::Order order = other_order ? *other_order : gen::parse_order(body.order);
+
+  std::ostringstream text;
+  text << "// " << gen::count_operations(graph).additions
+       << " additions; order: " << gen::to_string(order) << "\n";
+  for (const gen::Stage& stage : graph.stages()) {
+    if (!stage.description.empty()) {
+      text << "//   " << stage.name << ": " << stage.description << "\n";
+    }
+  }
+  text << "template <>\nstruct " << (is_row ? "Row<" : "Column<") << element << ", " << body.size
+       << (is_row                       ? "> {\n"
+           : body.kind == Kind::kColumn ? ", false> {\n"
+                                        : ", true> {\n");
+  if (is_row) {
+    text << "  template <class Memory>\n  ZULGEN_INLINE static void run(const " << element
+         << "* x, " << element << "* y) {\n";
+  } else {
+    text << "  template <class Memory, class Source, class Destination>\n"
+         << "  ZULGEN_INLINE static void run(Source x, Destination y, [[maybe_unused]] "
+         << (single ? "F4" : "D2") << " s) {\n";
+  }
+  text << gen::emit_body(code, gen::schedule(code, order), {}) << "  }\n};\n\n";
+  return text.str();
+}
+
+}  // namespace
+
+std::string body_header(const std::optional<gen::Order>& order) {
+  std::string text =
+      "// Generated from the tables of wht; a change belongs there.\n"
+      "#include \"wht/passes.h\"\n\n"
+      "namespace zulgen {\n\n";
+  for (const Body& body : kBodies) text += emit(body, order);
+  return text + "}  // namespace zulgen\n";
+}
+
+}  // namespace wht
