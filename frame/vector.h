@@ -70,7 +70,13 @@ F4 shuffle(F4 x, F4 y) {
 
 template <int a, int b>
 D2 shuffle(D2 x, D2 y) {
-  return _mm_shuffle_pd(x, y, b << 1 | a);
+  if constexpr (a == 0 && b == 0) {
+    return _mm_castsi128_pd(_mm_unpacklo_epi64(_mm_castpd_si128(x), _mm_castpd_si128(y)));
+  } else if constexpr (a == 1 && b == 1) {
+    return _mm_castsi128_pd(_mm_unpackhi_epi64(_mm_castpd_si128(x), _mm_castpd_si128(y)));
+  } else {
+    return _mm_shuffle_pd(x, y, b << 1 | a);
+  }
 }
 
 // (x0, y0, x1, y1) and (x2, y2, x3, y3). The integer form runs on more ports than unpcklps.

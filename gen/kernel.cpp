@@ -26,14 +26,22 @@ std::string heading(const Kernel& kernel, const Graph& graph) {
   return text.str();
 }
 
-std::string scale_table(const Kernel& kernel) {
+// The checks, and the factor that the flag selects as `factor`.
+std::string check_text(const Kernel& kernel) {
   const bool single = kernel.precision == Precision::kSingle;
   const auto literal = single ? float_literal : double_literal;
   const std::string by_n = literal(one_over_n(kernel.length)), one = literal(1);
-  const bool forward = kernel.scale_rule != ScaleRule::kInverse;
-  const bool inverse = kernel.scale_rule != ScaleRule::kForward;
+  const std::string by_sqrt_n = literal(one_over_sqrt_n(kernel.length));
+  const std::string check =
+      "  const zulgResult result = check_arguments(source, destination, flag, ";
+  const std::string fail = "  if (result != ZULG_OK) return result;\n";
+  if (kernel.scale_rule == ScaleRule::kEither) {
+    return std::string(single ? "  float" : "  double") + " factor;\n" + check + by_n + ", " +
+           by_sqrt_n + ", factor);\n" + fail;
+  }
+  const bool forward = kernel.scale_rule == ScaleRule::kForward;
   return "  static constexpr auto kScale = scale_factors(" + (forward ? by_n : one) + ", " +
-         (inverse ? by_n : one) + ", " + literal(one_over_sqrt_n(kernel.length)) + ");\n";
+         (forward ? one : by_n) + ", " + by_sqrt_n + ");\n" + check + "kScale);\n" + fail;
 }
 
 }  // namespace
@@ -65,12 +73,11 @@ std::string emit_kernel(const Kernel& kernel) {
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
   text << "inline zulgResult " << body_name << "(" << arguments << ") {\n";
-  text << scale_table(kernel) << emit_constants(code);
-  text << "  const zulgResult result = check_arguments(source, destination, flag, kScale);\n";
-  text << "  if (result != ZULG_OK) return result;\n";
+  text << check_text(kernel) << emit_constants(code);
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
-  text << "  const auto s = " << scale << "kScale.by_flag[flag]);\n\n";
+  text << "  const auto s = " << scale
+       << (kernel.scale_rule == ScaleRule::kEither ? "factor" : "kScale.by_flag[flag]") << ");\n\n";
   BodyStyle style;
   style.memory_policy = vectors;
   text << emit_body(code, schedule(code, kernel.order), style);

@@ -16,12 +16,12 @@ constexpr double one_over_sqrt(int order) {
 template <class T, int order, class Access>
 ZULGEN_INLINE zulgResult transform(const T* source, T* destination, zulgScaleFlag flag,
                                    void* work) {
-  static constexpr T kByN = T(1) / (1 << order);
-  static constexpr auto kScale = scale_factors(kByN, kByN, static_cast<T>(one_over_sqrt(order)));
-  const zulgResult result = check_arguments(source, destination, flag, kScale);
+  constexpr T kByN = T(1) / (1 << order), kBySqrtN = static_cast<T>(one_over_sqrt(order));
+  T factor;
+  const zulgResult result = check_arguments(source, destination, flag, kByN, kBySqrtN, factor);
   if (result != ZULG_OK) return result;
   void* const buffer = work != nullptr ? work : zulMalloc(wht::work_bytes<T>(order));
-  const VectorOf<T> s = VectorOf<T>{} + kScale.by_flag[flag];
+  const VectorOf<T> s = VectorOf<T>{} + factor;
   run_passes<T, wht::plan_of<T>(order), Access>(source, destination, s, static_cast<T*>(buffer));
   if (work == nullptr) zulFree(buffer);
   return ZULG_OK;
