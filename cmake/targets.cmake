@@ -43,7 +43,9 @@ function(zulgen_shared_library)
   set_target_properties(${ARG_TARGET} PROPERTIES
     OUTPUT_NAME ${ARG_NAME} VERSION 6.1 SOVERSION 6.1
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
-    LINK_DEPENDS ${ARG_EXPORTS})
+    LINK_DEPENDS ${ARG_EXPORTS}
+    # One library of the two finds the other beside it.
+    BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN")
   target_include_directories(${ARG_TARGET} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
   # No start files and no default libraries: they would bring in writable data and the C++ runtime.
   target_link_options(${ARG_TARGET} PRIVATE

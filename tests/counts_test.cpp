@@ -1,11 +1,12 @@
 // The arithmetic of every kernel against the tables of wanted counts.
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <map>
 
+#include "dft_complex/dft_complex.h"
 #include "gen/count.h"
-#include "gen/manifest.h"
-#include "networks/tree.h"
+#include "wht/wht.h"
 
 namespace {
 
@@ -56,7 +57,7 @@ const std::map<int, Row> kPrime64fc = {
 };
 
 TEST(Counts, EqualTheTables) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const bool single = kernel.precision == gen::Precision::kSingle;
     const auto& composite = single ? kComposite32fc : kComposite64fc;
     const auto row = composite.find(kernel.length);
@@ -79,7 +80,7 @@ TEST(Counts, EqualTheTables) {
 // Prime lengths of two samples a vector are counted with what idle lanes carry. How many zeros are
 // added in the lane beside x[0] is the one thing that the arrangement settles.
 TEST(Counts, OfPrimeLengthsIncludeIdleLanes) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const auto row = kPrime32fc.find(kernel.length);
     if (kernel.precision != gen::Precision::kSingle || row == kPrime32fc.end()) continue;
     const gen::Counts counts = gen::count_carried_operations(kernel.graph());
@@ -99,7 +100,7 @@ TEST(Counts, OfPrimeLengthsIncludeIdleLanes) {
 // In single precision, only lengths 3 and 5 hold double precision, and only where constants are.
 TEST(Counts, ConversionsStandInTheScalarKernelsAlone) {
   const std::map<int, std::pair<int, int>> widened_and_rounded = {{3, {6, 4}}, {5, {10, 8}}};
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const gen::Graph graph = kernel.graph();
     std::pair<int, int> conversions, expected;
     for (gen::NodeId id = 0; id < graph.size(); ++id) {
@@ -116,7 +117,7 @@ TEST(Counts, ConversionsStandInTheScalarKernelsAlone) {
 
 // Until their last combination, no value of a double-precision kernel depends on both lanes.
 TEST(Counts, DoublePrecisionKernelsSwapOnceAPairOfBins) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     if (kernel.precision != gen::Precision::kDouble) continue;
     const gen::Graph graph = kernel.graph();
     const std::vector<bool> live = graph.live_nodes();
@@ -127,6 +128,25 @@ TEST(Counts, DoublePrecisionKernelsSwapOnceAPairOfBins) {
       swaps += graph[node.picks[0].node].op != gen::Op::kInput;
     }
     EXPECT_EQ(swaps, (kernel.length - 1) / 2) << kernel.name;
+  }
+}
+
+// One addition a sample and stage, half of them subtractions, and one product a sample.
+TEST(Counts, OfWalshHadamardKernels) {
+  for (const gen::Kernel& kernel : wht::kernels()) {
+    const gen::Graph graph = kernel.graph();
+    const std::vector<bool> live = graph.live_nodes();
+    std::map<gen::Op, int> lanes;
+    for (gen::NodeId id = 0; id < graph.size(); ++id) {
+      if (live[id]) lanes[graph[id].op] += graph[id].lane_count;
+    }
+    const int stages = std::countr_zero(static_cast<unsigned>(kernel.length));
+    const int additions = stages * kernel.length;
+    EXPECT_EQ(gen::count_operations(graph), (gen::Counts{additions, 0})) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kAdd], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kSub], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kScale], kernel.length) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kFlipSigns], 0) << kernel.name;
   }
 }
 

@@ -4,7 +4,7 @@
 set -eu
 build=$1
 generate=$build/bin/zulgen-generate
-shards="--shards dft_complex_32fc=3 --shards dft_complex_64fc=2"
+shards="--shards dft_complex_32fc=3 --shards dft_complex_64fc=2 --shards wht_32f=1 --shards wht_64f=1"
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 

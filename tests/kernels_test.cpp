@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "gen/manifest.h"
+#include "networks/walsh_hadamard.h"
 #include "tests/harness/checks.h"
 
 namespace {
@@ -18,6 +19,8 @@ Subject exported(const gen::Kernel& kernel) {
   void* function = dlsym(RTLD_DEFAULT, kernel.name.c_str());
   return {kernel, reinterpret_cast<harness::KernelFunction>(function)};
 }
+
+bool is_walsh_hadamard(const gen::Kernel& kernel) { return kernel.family.starts_with("wht"); }
 
 // The definition, summed in quad precision with the compiler's own trigonometry.
 std::vector<Quad> complex_dft(int n, int sign, const std::vector<double>& x) {
@@ -37,6 +40,11 @@ std::vector<Quad> complex_dft(int n, int sign, const std::vector<double>& x) {
 }
 
 harness::Reference reference_for(const gen::Kernel& kernel) {
+  if (is_walsh_hadamard(kernel)) {
+    return [](const std::vector<double>& x) {
+      return networks::walsh_hadamard(std::vector<Quad>(x.begin(), x.end()));
+    };
+  }
   const int sign = kernel.scale_rule == gen::ScaleRule::kForward ? -1 : 1;
   return
       [n = kernel.length, sign](const std::vector<double>& x) { return complex_dft(n, sign, x); };
@@ -48,6 +56,9 @@ harness::Reference reference_for(const gen::Kernel& kernel) {
 // product between them; the chirp form twice those of a length above the double. At 47 and 59 the
 // double-precision kernels nest one Rader form in another.
 double error_bound(const gen::Kernel& kernel) {
+  // A stage rounds every value once, by an error that is spread evenly over 2 u times a power of
+  // two below the value: at most u / sqrt(3) of it on average. Errors of stages add up in squares.
+  if (is_walsh_hadamard(kernel)) return std::sqrt(std::log2(kernel.length) / 3);
   if (kernel.length == 47 || kernel.length == 59) return 4.0;
   bool has_rader_leaf = false;
   for (const char* leaf : {"13", "17", "19", "23", "29", "31"}) {
@@ -94,6 +105,7 @@ TEST_P(EveryKernel, KeepsTheCallingConvention) {
 // it stands: an impulse there comes out unrounded. A constant cancels only up to rounding.
 TEST_P(EveryKernel, KnowsImpulsesAndConstants) {
   const gen::Kernel& kernel = GetParam().kernel;
+  if (is_walsh_hadamard(kernel)) return;  // whole numbers, in a test of their own
   const bool single = kernel.precision == gen::Precision::kSingle;
   const double u = single ? 0x1p-24 : 0x1p-53, n = kernel.length;
   const double tolerance = kernel.recipe.starts_with("chirp") ? 8 * u : 0;

@@ -8,11 +8,10 @@ namespace harness {
 
 double Subject::scale(zulgScaleFlag flag) const {
   const double n = kernel.length;
-  const zulgScaleFlag by_n =
-      kernel.scale_rule == gen::ScaleRule::kForward ? ZULG_SCALE_FWD_BY_N : ZULG_SCALE_INV_BY_N;
-  const double factor = flag == ZULG_SCALE_BY_SQRT_N ? 1.0 / std::sqrt(n)
-                        : flag == by_n               ? 1.0 / n
-                                                     : 1.0;
+  const bool by_n =
+      (flag == ZULG_SCALE_FWD_BY_N && kernel.scale_rule != gen::ScaleRule::kInverse) ||
+      (flag == ZULG_SCALE_INV_BY_N && kernel.scale_rule != gen::ScaleRule::kForward);
+  const double factor = flag == ZULG_SCALE_BY_SQRT_N ? 1.0 / std::sqrt(n) : by_n ? 1.0 / n : 1.0;
   return kernel.precision == gen::Precision::kSingle ? static_cast<float>(factor) : factor;
 }
 
