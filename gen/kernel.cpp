@@ -35,7 +35,7 @@ std::string check_text(const Kernel& kernel) {
   const std::string check =
       "  const zulgResult result = check_arguments(source, destination, flag, ";
   const std::string fail = "  if (result != ZULG_OK) return result;\n";
-  if (kernel.scale_rule == ScaleRule::kEither) {
+  if (kernel.scale_rule == ScaleRule::kBoth) {
     return std::string(single ? "  float" : "  double") + " factor;\n" + check + by_n + ", " +
            by_sqrt_n + ", factor);\n" + fail;
   }
@@ -77,7 +77,7 @@ std::string emit_kernel(const Kernel& kernel) {
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
   text << "  const auto s = " << scale
-       << (kernel.scale_rule == ScaleRule::kEither ? "factor" : "kScale.by_flag[flag]") << ");\n\n";
+       << (kernel.scale_rule == ScaleRule::kBoth ? "factor" : "kScale.by_flag[flag]") << ");\n\n";
   BodyStyle style;
   style.memory_policy = vectors;
   text << emit_body(code, schedule(code, kernel.order), style);

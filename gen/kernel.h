@@ -12,7 +12,7 @@ namespace gen {
 
 // Which flag selects the factor 1 / N: the one of its direction, or, if a transform is its own
 // inverse, either.
-enum class ScaleRule { kForward, kInverse, kEither };
+enum class ScaleRule { kForward, kInverse, kBoth };
 
 // How a kernel serves arrays that aren't aligned on 16 bytes.
 enum class Bodies {

@@ -34,7 +34,7 @@ void write_library(const std::string& directory, const Shards& shards,
                        texts[shard] + "\n}  // namespace zulgen\n");
     }
   }
-  for (const auto& [name, text] : body_headers(order)) {
+  for (const auto& [name, text] : body_headers()) {
     write_if_changed(directory + "/" + name, text);
   }
   std::string exports = "{\n  global:\n";

@@ -13,9 +13,7 @@ std::vector<Kernel> all_kernels() {
   return result;
 }
 
-std::map<std::string, std::string> body_headers(const std::optional<Order>& order) {
-  return {{"wht_bodies.h", wht::body_header(order)}};
-}
+std::map<std::string, std::string> body_headers() { return {{"wht_bodies.h", wht::body_header()}}; }
 
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion", "zulgWHTGetBufferSize_32f",

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,9 +11,8 @@ namespace gen {
 
 std::vector<Kernel> all_kernels();
 
-// Generated bodies that code written by hand includes, by the name of their header; `order`
-// replaces every body's own.
-std::map<std::string, std::string> body_headers(const std::optional<Order>& order);
+// Generated bodies that code written by hand includes, by the name of their header.
+std::map<std::string, std::string> body_headers();
 
 // The kernels and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();

@@ -40,46 +40,43 @@ Graph graph_of(const Body& body) {
   return column_graph(body.precision, body.size, body.kind == Kind::kScaledColumn);
 }
 
-std::string emit(const Body& body, const std::optional<gen::Order>& other_order) {
+std::string emit(const Body& body) {
   const bool single = body.precision == Precision::kSingle;
-  const bool is_row = body.kind == Kind::kRow;
-  const std::string element = single ? "float" : "double";
+  const std::string element = single ? "float" : "double", vector = single ? "F4" : "D2";
   const Graph graph = graph_of(body);
   const Graph code = gen::lowered(graph, static_cast<int>(graph.outputs().size()), true);
-  const gen::Order order = other_order ? *other_order : gen::parse_order(body.order);
 
   std::ostringstream text;
-  text << "// " << gen::count_operations(graph).additions
-       << " additions; order: " << gen::to_string(order) << "\n";
+  text << "// " << gen::count_operations(graph).additions << " additions; order: " << body.order
+       << "\n";
   for (const gen::Stage& stage : graph.stages()) {
-    if (!stage.description.empty()) {
-      text << "//   " << stage.name << ": " << stage.description << "\n";
-    }
+    if (stage.description.empty()) continue;
+    text << "//   " << stage.name << ": " << stage.description << "\n";
   }
-  text << "template <>\nstruct " << (is_row ? "Row<" : "Column<") << element << ", " << body.size
-       << (is_row                       ? "> {\n"
-           : body.kind == Kind::kColumn ? ", false> {\n"
-                                        : ", true> {\n");
-  if (is_row) {
-    text << "  template <class Memory>\n  ZULGEN_INLINE static void run(const " << element
-         << "* x, " << element << "* y) {\n";
+  if (body.kind == Kind::kRow) {
+    text << "template <>\nstruct Row<" << element << ", " << body.size << "> {\n"
+         << "  template <class Memory>\n"
+         << "  ZULGEN_INLINE static void run(const " << element << "* x, " << element << "* y) {\n";
   } else {
-    text << "  template <class Memory, class Source, class Destination>\n"
-         << "  ZULGEN_INLINE static void run(Source x, Destination y, [[maybe_unused]] "
-         << (single ? "F4" : "D2") << " s) {\n";
+    text << "template <>\nstruct Column<" << element << ", " << body.size << ", "
+         << (body.kind == Kind::kScaledColumn ? "true" : "false") << "> {\n"
+         << "  template <class Memory, class Source, class Destination>\n"
+         << "  ZULGEN_INLINE static void run(Source x, Destination y, [[maybe_unused]] " << vector
+         << " s) {\n";
   }
-  text << gen::emit_body(code, gen::schedule(code, order), {}) << "  }\n};\n\n";
+  text << gen::emit_body(code, gen::schedule(code, gen::parse_order(body.order)), {})
+       << "  }\n};\n\n";
   return text.str();
 }
 
 }  // namespace
 
-std::string body_header(const std::optional<gen::Order>& order) {
+std::string body_header() {
   std::string text =
       "// Generated from the tables of wht; a change belongs there.\n"
       "#include \"wht/passes.h\"\n\n"
       "namespace zulgen {\n\n";
-  for (const Body& body : kBodies) text += emit(body, order);
+  for (const Body& body : kBodies) text += emit(body);
   return text + "}  // namespace zulgen\n";
 }
 

@@ -36,7 +36,7 @@ Kernel kernel(Precision precision, int order) {
   kernel.family = "wht" + suffix;
   kernel.length = 1 << order;
   kernel.precision = precision;
-  kernel.scale_rule = gen::ScaleRule::kEither;
+  kernel.scale_rule = gen::ScaleRule::kBoth;
   kernel.source_type = kernel.destination_type = "zulg" + suffix.substr(1);
   kernel.source_elements = kernel.destination_elements = kernel.length;
   kernel.bodies = bodies(precision, order);

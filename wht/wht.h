@@ -2,7 +2,6 @@
 // kernels of the short orders, and the bodies of the long orders' passes.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,11 +14,11 @@ namespace wht {
 // graphs are what the passes compute.
 std::vector<gen::Kernel> kernels();
 
-// The bodies of the passes as a header; `order` replaces the order of each one's statements.
-std::string body_header(const std::optional<gen::Order>& order);
+// The bodies of the passes as a header.
+std::string body_header();
 
 // What a pass does to one block of 2^row_order contiguous samples, or to one vector of columns.
-// Elements of the source and of the destination are those of the block, or R packed vectors.
+// Elements of the source and of the destination are those of the block, or one packed vector a row.
 gen::Graph row_graph(gen::Precision precision, int row_order);
 gen::Graph column_graph(gen::Precision precision, int rows, bool is_scaled);
 
