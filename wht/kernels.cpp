@@ -6,11 +6,11 @@ namespace {
 using gen::Kernel;
 using gen::Precision;
 
-// The fastest order of the statements, by the order of the transform.
-constexpr const char* kOrders32f[kLastShortOrder + 1] = {
-    "", "bisect 0", "bisect 0", "bisect 0", "bisect 0", "bisect 0", "bisect 0", "bisect 0"};
-constexpr const char* kOrders64f[kLastShortOrder + 1] = {
-    "", "bisect 0", "bisect 0", "bisect 0", "bisect 0", "bisect 0", "bisect 0", "bisect 0"};
+// The order of the statements that measured fastest, by the order of the transform.
+constexpr const char* kOrders32f[] = {"",       "bisect 0", "bisect 5", "live 1",
+                                      "live 1", "bisect 8", "bisect 7", "bisect 19"};
+constexpr const char* kOrders64f[] = {"",         "bisect 0", "bisect 5", "bisect 9",
+                                      "bisect 9", "bisect 5", "bisect 0", "bisect 12"};
 
 gen::Bodies bodies(Precision precision, int order) {
   const bool single = precision == Precision::kSingle;

@@ -18,6 +18,9 @@ struct Row;
 template <class T, int rows, bool is_scaled>
 struct Column;
 
+inline F4 all(float x) { return allF4(x); }
+inline D2 all(double x) { return allD2(x); }
+
 template <class T>
 using VectorOf = decltype(Aligned::load(static_cast<const T*>(nullptr)));
 
