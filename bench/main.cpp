@@ -5,17 +5,15 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <limits>
 #include <memory>
-#include <random>
 #include <string>
 
+#include "bench/arrays.h"
 #include "bench/clock.h"
 #include "bench/fftw_peer.h"
 #include "gen/cost.h"
 #include "gen/manifest.h"
-#include "zulgen.h"
 
 namespace {
 
@@ -33,9 +31,6 @@ struct Options {
   std::string csv;
 };
 
-// Kernels without a work buffer don't look at the last argument.
-using KernelFunction = zulgResult (*)(const void*, void*, zulgScaleFlag, void*);
-
 // The least of some figures; NaN if there is none.
 double best(const std::vector<double>& cycles, std::size_t first, std::size_t last) {
   double result = std::numeric_limits<double>::quiet_NaN();
@@ -43,38 +38,15 @@ double best(const std::vector<double>& cycles, std::size_t first, std::size_t la
   return result;
 }
 
-// Arrays large enough for any kernel, on a cache line of their own.
-struct Arrays {
-  alignas(64) char source[65536];
-  alignas(64) char destination[65536];
-  alignas(64) char work[73728];
-
-  void fill(gen::Precision precision) {
-    std::mt19937 random(1);
-    std::uniform_real_distribution<double> uniform(-1, 1);
-    const std::size_t size = precision == gen::Precision::kSingle ? sizeof(float) : sizeof(double);
-    for (std::size_t at = 0; at < sizeof source; at += size) {
-      const double value = uniform(random);
-      const float single = static_cast<float>(value);
-      std::memcpy(source + at, size == sizeof single ? static_cast<const void*>(&single) : &value,
-                  size);
-    }
-  }
-};
-
 struct Figures {
   double ours, bound, sse2, installed;
 };
 
 Figures measure(const bench::Clock& clock, const gen::Kernel& kernel, const Options& options,
                 bench::FftwPeer* sse2, bench::FftwPeer* installed) {
-  static Arrays arrays;
-  const auto function = reinterpret_cast<KernelFunction>(dlsym(RTLD_DEFAULT, kernel.name.c_str()));
-  std::vector<bench::Contender> contenders = {[function](int calls) {
-    for (int call = 0; call < calls; ++call) {
-      function(arrays.source, arrays.destination, ZULG_SCALE_NONE, arrays.work);
-    }
-  }};
+  static bench::Arrays arrays;
+  std::vector<bench::Contender> contenders = {
+      bench::calls_of(dlsym(RTLD_DEFAULT, kernel.name.c_str()), arrays)};
   const auto add_plans = [&](bench::FftwPeer* peer) {
     if (peer == nullptr) return;
     for (auto& plan : peer->plans(kernel, arrays.source, arrays.destination, options.plans)) {
@@ -107,7 +79,7 @@ int run(const Options& options) {
   }
   if (csv)
     std::fprintf(
-        csv, "kernel,length,cycles,port_bound,fftw_sse2,ratio,fftw_installed,ratio_installed\n");
+        csv, "kernel,length,cycles,fftw_sse2,ratio,fftw_installed,ratio_installed,port_bound\n");
   std::printf(
       "core cycles a call; bound: what the arithmetic takes two ports; ratio: FFTW's over ours\n");
   std::printf("%-28s %9s %9s %10s %7s %14s %7s\n", "kernel", "cycles", "bound", "FFTW SSE2",
@@ -123,8 +95,8 @@ int run(const Options& options) {
                 f.bound, f.sse2, ratio, f.installed, f.installed / f.ours);
     std::fflush(stdout);
     if (csv) {
-      std::fprintf(csv, "%s,%d,%.1f,%.1f,%.1f,%.3f,%.1f,%.3f\n", kernel.name.c_str(), kernel.length,
-                   f.ours, f.bound, f.sse2, ratio, f.installed, f.installed / f.ours);
+      std::fprintf(csv, "%s,%d,%.1f,%.1f,%.3f,%.1f,%.3f,%.1f\n", kernel.name.c_str(), kernel.length,
+                   f.ours, f.sse2, ratio, f.installed, f.installed / f.ours, f.bound);
     }
     if (std::isnan(ratio)) continue;
     log_sum += std::log(ratio);

@@ -1,32 +1,27 @@
 #!/bin/sh
-# Measures the kernels under many orders of their statements and prints, for each kernel, the order
-# that came out fastest: what the last column of the families' tables is taken from.
+# Measures kernels under many orders of their statements and prints, for each kernel, the order that
+# came out fastest and its cycles, and those of the order that it has now: what the last columns of
+# the families' tables are taken from.
 #
-# Usage: bench/tune_orders.sh SOURCE_DIR BUILD_DIR NAME-FILTER [ORDER...]
-# An order is "bisect 3" or "live 0"; by default the first 24 variants of the one and 4 of the other.
+# Usage: bench/tune_orders.sh BUILD_DIR NAME...
+# ORDERS may hold the orders to try, one a line.
 set -eu
-source=$1 build=$2 filter=$3
-shift 3
-if [ $# -eq 0 ]; then
-  for variant in $(seq 0 23); do set -- "$@" "bisect $variant"; done
-  for variant in $(seq 0 3); do set -- "$@" "live $variant"; done
-fi
-mkdir -p "$build"
-figures=$build/orders.csv
-: >"$figures"
-for order in "$@"; do
-  cmake -S "$source" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DZULGEN_TESTS=OFF \
-    -DZULGEN_EXAMPLES=OFF -DZULGEN_ORDER="$order" >/dev/null
-  cmake --build "$build" --target zulgen-bench >/dev/null
-  "$build/bin/zulgen-bench" --plans 0 --filter "$filter" --csv "$build/cycles.csv" >/dev/null
-  sed -n "2,\$s/^/$order,/p" "$build/cycles.csv" >>"$figures"
+build=$1
+shift
+: "${ORDERS:=$(for i in $(seq 0 31); do echo "bisect $i"; done; for i in $(seq 0 7); do echo "live $i"; done)}"
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+# The compiler's command line for a generated file, up to the names of the files.
+compile=$(sed -n 's/^  "command": "\(.*\) -o .*zulgen_kernels.dir.*/\1/p' "$build/compile_commands.json" |
+  head -n 1)
+echo "$ORDERS" >"$work/orders"
+for name in "$@"; do
+  set --
+  while read -r order; do set -- "$@" --order "$order"; done <"$work/orders"
+  "$build/bin/zulgen-generate" --variants "$name" "$@" >"$work/variants.cpp"
+  $compile -shared -nostdlib -o "$work/variants.so" "$work/variants.cpp"
+  "$build/bin/zulgen-variants" "$work/variants.so" "$name" $(wc -l <"$work/orders") |
+    paste -d, "$work/orders" - | grep -v nan | sort -t, -k2 -n |
+    awk -F, -v name="$name" 'NR == 1 { best = $1; cycles = $2 }
+      END { printf "%s,%s,%s,%s\n", name, best, cycles, $2 }'
 done
-# order,kernel,length,cycles,...
-awk -F, '
-  !($2 in best) || $4 < best[$2] { best[$2] = $4; order[$2] = $1 }
-  $1 == "bisect 0" { plain[$2] = $4 }
-  !($2 in rank) { rank[$2] = ++count; name[count] = $2 }
-  END {
-    for (i = 1; i <= count; ++i)
-      printf "%-30s %-10s %8.1f cycles (bisect 0: %s)\n", name[i], order[name[i]], best[name[i]], plain[name[i]]
-  }' "$figures"

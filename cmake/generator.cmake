@@ -3,7 +3,9 @@
 file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/gen/*.cpp
   ${PROJECT_SOURCE_DIR}/networks/*.cpp
-  ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp)
+  ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
+  ${PROJECT_SOURCE_DIR}/dft_real/*.cpp
+  ${PROJECT_SOURCE_DIR}/hartley/*.cpp)
 list(APPEND ZULGEN_CODEGEN_SOURCES
   ${PROJECT_SOURCE_DIR}/wht/kernels.cpp
   ${PROJECT_SOURCE_DIR}/wht/graphs.cpp
@@ -22,9 +24,8 @@ target_include_directories(codegen32 PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(codegen32 PUBLIC zulgen_m32 zulgen_program)
 
 # The files that every family's kernels are spread over.
-set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12 wht_32f=1 wht_64f=1)
-set(ZULGEN_ORDER "" CACHE STRING
-  "Schedule all kernels in this order instead of their own, for measuring (\"bisect 3\")")
+set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12 dft_real_32f=16 dft_real_64f=16
+  hartley_32f=4 hartley_64f=4 wht_32f=1 wht_64f=1)
 
 set(ZULGEN_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
 file(MAKE_DIRECTORY ${ZULGEN_GENERATED_DIR})
@@ -40,9 +41,6 @@ foreach(shards IN LISTS ZULGEN_SHARDS)
     list(APPEND ZULGEN_KERNEL_SOURCES ${ZULGEN_GENERATED_DIR}/${CMAKE_MATCH_1}.${shard}.cpp)
   endforeach()
 endforeach()
-if(ZULGEN_ORDER)
-  list(APPEND arguments --order ${ZULGEN_ORDER})
-endif()
 
 # Only files that change are written, so that a change in one family compiles that family alone.
 add_custom_command(

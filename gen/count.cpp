@@ -44,6 +44,8 @@ class ScalarExpansion {
         return expand(node.picks[lane]);
       case Op::kFlipSigns:
         return node.flips >> lane & 1 ? -operand(node.a) : operand(node.a);
+      case Op::kFromZero:
+        return -operand(node.a);
       case Op::kAdd:
         return sum(operand(node.a), operand(node.b));
       case Op::kSub:
@@ -110,6 +112,7 @@ bool is_zero(const Graph& graph, Lane lane) {
     case Op::kLanes:
       return is_zero(graph, node.picks[lane.index]);
     case Op::kFlipSigns:
+    case Op::kFromZero:
     case Op::kMul:
       return is_zero(graph, {node.a, lane.index});
     case Op::kAdd:

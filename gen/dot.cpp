@@ -81,6 +81,8 @@ class DotWriter {
         return lanes_label(id);
       case Op::kFlipSigns:
         return "flip signs";
+      case Op::kFromZero:
+        return "0 -";
       case Op::kAdd:
         return "+";
       case Op::kSub:

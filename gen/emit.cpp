@@ -189,6 +189,8 @@ class BodyWriter {
         }
         return "flip_signs<" + list(flips) + ">(" + name(node.a) + ")";
       }
+      case Op::kFromZero:
+        return (node.precision == Precision::kSingle ? "0.0f - " : "0.0 - ") + name(node.a);
       case Op::kAdd:
         return name(node.a) + " + " + name(node.b);
       case Op::kSub:

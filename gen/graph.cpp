@@ -92,6 +92,9 @@ Value Graph::unary(Op op, Value a, Precision precision) {
 }
 
 Value Graph::scale(Value a) { return unary(Op::kScale, a, nodes_[a.node].precision); }
+Value Graph::settle_sign(Value a) {
+  return a.negative ? unary(Op::kFromZero, -a, nodes_[a.node].precision) : a;
+}
 Value Graph::widen(Value a) { return unary(Op::kWiden, a, Precision::kDouble); }
 Value Graph::round(Value a) { return unary(Op::kRound, a, Precision::kSingle); }
 
@@ -206,6 +209,8 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
     }
     case Op::kFlipSigns:
       return graph.flip_signs(operand(node.a), node.flips);
+    case Op::kFromZero:
+      return graph.settle_sign(-operand(node.a));
     case Op::kAdd:
       return graph.add(operand(node.a), operand(node.b));
     case Op::kSub:

@@ -25,6 +25,7 @@ enum class Op : std::uint8_t {
   kZero,       // the constant +0.0
   kLanes,      // lanes picked from other nodes; lanes that nobody reads may stay open
   kFlipSigns,  // negates some lanes
+  kFromZero,   // 0.0 - a: the negative, but +0.0 of either zero
   kAdd,
   kSub,
   kMul,    // each lane by its own constant
@@ -93,6 +94,8 @@ class Graph {
   // By one constant in every lane; its sign moves out of the constant.
   Value mul(const Number& factor, Value a);
   Value scale(Value a);
+  // Carries out a sign that is still outside as 0.0 - a.
+  Value settle_sign(Value a);
   Value widen(Value a);
   Value round(Value a);
 

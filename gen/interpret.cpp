@@ -52,6 +52,9 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
         case Op::kFlipSigns:
           result = node.flips >> lane & 1 ? -a : a;
           break;
+        case Op::kFromZero:
+          result = 0.0 - a;
+          break;
         case Op::kAdd:
         case Op::kSub:
           result = operate(node.precision, node.op, a, values[node.b][lane]);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <sstream>
+#include <stdexcept>
 
 #include "gen/count.h"
 #include "gen/emit.h"
@@ -44,6 +45,17 @@ std::string check_text(const Kernel& kernel) {
          (forward ? one : by_n) + ", " + by_sqrt_n + ");\n" + check + "kScale);\n" + fail;
 }
 
+std::string arguments_of(const Kernel& kernel) {
+  return "const " + kernel.source_type + "* source, " + kernel.destination_type +
+         "* destination, zulgScaleFlag flag";
+}
+
+std::string emit_alias(const Kernel& kernel) {
+  return "// " + kernel.name + " is " + kernel.same_as + ".\nZULGEN_EXPORT zulgResult " +
+         kernel.name + "(" + arguments_of(kernel) + ")\n    __attribute__((alias(\"" +
+         kernel.same_as + "\")));\n";
+}
+
 }  // namespace
 
 std::string Kernel::twin_name() const { return "owng" + name.substr(4) + "_unaligned"; }
@@ -56,12 +68,13 @@ Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
 std::string emit_kernel(const Kernel& kernel) {
+  if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
+  if (!kernel.same_as.empty()) return emit_alias(kernel);
   const Graph graph = kernel.graph();
   const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
   const std::string element = kernel.precision == Precision::kSingle ? "float" : "double";
   const bool vectors = kernel.bodies != Bodies::kOne;
-  const std::string arguments = "const " + kernel.source_type + "* source, " +
-                                kernel.destination_type + "* destination, zulgScaleFlag flag";
+  const std::string arguments = arguments_of(kernel);
   const auto with_work = [&](const std::string& list, const std::string& work) {
     return "(" + list + (kernel.has_work_argument ? ", " + work : "") + ")";
   };

@@ -33,6 +33,9 @@ struct Kernel {
   std::string source_type, destination_type;
   int source_elements = 0, destination_elements = 0;
 
+  // An exported function that does the very same, for this name to stand for; or empty.
+  std::string same_as;
+
   Bodies bodies = Bodies::kOne;
   // Whether the caller may pass a fourth argument, a work buffer.
   bool has_work_argument = false;

@@ -8,30 +8,40 @@
 
 namespace gen {
 
-void write_library(const std::string& directory, const Shards& shards,
-                   const std::optional<Order>& order) {
+namespace {
+
+std::string source_file(const std::string& heading, const std::string& functions) {
+  return "// " + heading +
+         "\n#include \"frame/kernel.h\"\n#include \"frame/vector.h\"\n\nnamespace zulgen {\n" +
+         functions + "\n}  // namespace zulgen\n";
+}
+
+}  // namespace
+
+void write_library(const std::string& directory, const Shards& shards) {
   std::map<std::string, std::vector<std::string>> sources;
   for (const auto& [family, count] : shards) {
-    sources[family].assign(count, "// Generated from the tables of " + family +
-                                      "; a change belongs there.\n"
-                                      "#include \"frame/kernel.h\"\n"
-                                      "#include \"frame/vector.h\"\n\n"
-                                      "namespace zulgen {\n");
+    sources[family].resize(count);
   }
-  std::map<std::string, std::size_t> next_shard;
-  for (Kernel& kernel : all_kernels()) {
+  std::map<std::string, std::size_t> next_shard, shard_of;
+  for (const Kernel& kernel : all_kernels()) {
     if (!kernel.is_generated) continue;
     const auto family = sources.find(kernel.family);
     if (family == sources.end()) throw std::runtime_error("no shards for " + kernel.family);
-    if (order) kernel.order = *order;
-    // Kernels come in order of length, so that dealing them out evens out the files.
-    std::string& source = family->second[next_shard[kernel.family]++ % family->second.size()];
-    source += "\n" + emit_kernel(kernel);
+    // Kernels come in order of length, so that dealing them out evens out the files. A name that
+    // stands for another kernel belongs behind it.
+    const std::size_t shard = kernel.same_as.empty()
+                                  ? next_shard[kernel.family]++ % family->second.size()
+                                  : shard_of.at(kernel.same_as);
+    shard_of[kernel.name] = shard;
+    family->second[shard] += "\n" + emit_kernel(kernel);
   }
   for (const auto& [family, texts] : sources) {
     for (std::size_t shard = 0; shard < texts.size(); ++shard) {
-      write_if_changed(directory + "/" + family + "." + std::to_string(shard) + ".cpp",
-                       texts[shard] + "\n}  // namespace zulgen\n");
+      write_if_changed(
+          directory + "/" + family + "." + std::to_string(shard) + ".cpp",
+          source_file("Generated from the tables of " + family + "; a change belongs there.",
+                      texts[shard]));
     }
   }
   for (const auto& [name, text] : body_headers()) {
@@ -40,6 +50,18 @@ void write_library(const std::string& directory, const Shards& shards,
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";
   write_if_changed(directory + "/zulgens8.map", exports + "  local:\n    *;\n};\n");
+}
+
+std::string source_of_variants(Kernel kernel, const std::vector<Order>& orders) {
+  std::string functions;
+  const std::string name = kernel.name;
+  kernel.graph = [graph = kernel.graph()] { return graph; };
+  for (std::size_t i = 0; i < orders.size(); ++i) {
+    kernel.name = name + "_" + std::to_string(i);
+    kernel.order = orders[i];
+    functions += "\n" + emit_kernel(kernel);
+  }
+  return source_file(name + " in " + std::to_string(orders.size()) + " orders.", functions);
 }
 
 }  // namespace gen

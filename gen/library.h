@@ -2,10 +2,10 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
+#include <vector>
 
-#include "gen/schedule.h"
+#include "gen/kernel.h"
 
 namespace gen {
 
@@ -14,9 +14,11 @@ namespace gen {
 using Shards = std::map<std::string, int>;
 
 // Into `directory`: <family>.<shard>.cpp for every shard, the headers of bodies, and zulgens8.map,
-// the linker's version script, which exports what the manifest lists and nothing else. `order`
-// replaces every kernel's own order. Throws std::runtime_error.
-void write_library(const std::string& directory, const Shards& shards,
-                   const std::optional<Order>& order);
+// the linker's version script, which exports what the manifest lists and nothing else. Throws
+// std::runtime_error.
+void write_library(const std::string& directory, const Shards& shards);
+
+// One source file that holds the kernel in all these orders, as functions NAME_0, NAME_1, ...
+std::string source_of_variants(Kernel kernel, const std::vector<Order>& orders);
 
 }  // namespace gen

@@ -11,11 +11,15 @@
 namespace {
 
 constexpr const char* kUsage =
-    "usage: zulgen-generate --out DIR --shards FAMILY=COUNT... [--order \"bisect 3\"]\n"
+    "usage: zulgen-generate --out DIR --shards FAMILY=COUNT...\n"
     "       zulgen-generate --list          exported functions\n"
     "       zulgen-generate --counts        additions and multiplications of every kernel\n"
     "       zulgen-generate --recipe NAME   how a kernel is decomposed\n"
     "       zulgen-generate --print NAME    a kernel's source\n"
+    "       zulgen-generate --variants NAME --order ORDER...\n"
+    "                                       a source file of the kernel in many orders, for "
+    "measuring;\n"
+    "                                       they are called NAME_0, NAME_1, ...\n"
     "       zulgen-generate --dot NAME      a kernel's data flow, for Graphviz\n";
 
 struct UsageError : std::runtime_error {
@@ -38,9 +42,9 @@ void print_counts() {
 }
 
 void run(const std::vector<std::string>& arguments) {
-  std::string directory;
+  std::string directory, variants_of;
   gen::Shards shards;
-  std::optional<gen::Order> order;
+  std::vector<gen::Order> orders;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& option = arguments[i];
     if (option == "--list") {
@@ -66,13 +70,19 @@ void run(const std::vector<std::string>& arguments) {
       if (equals == std::string::npos) throw UsageError("not FAMILY=COUNT: " + value);
       shards[value.substr(0, equals)] = std::stoi(value.substr(equals + 1));
     } else if (option == "--order") {
-      order = gen::parse_order(value);
+      orders.push_back(gen::parse_order(value));
+    } else if (option == "--variants") {
+      variants_of = value;
     } else {
       throw UsageError("what is " + option + "?");
     }
   }
+  if (!variants_of.empty()) {
+    std::cout << gen::source_of_variants(find_kernel(variants_of), orders);
+    return;
+  }
   if (directory.empty()) throw UsageError("nothing to do");
-  gen::write_library(directory, shards, order);
+  gen::write_library(directory, shards);
 }
 
 }  // namespace

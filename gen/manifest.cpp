@@ -3,13 +3,18 @@
 #include <algorithm>
 
 #include "dft_complex/dft_complex.h"
+#include "dft_real/dft_real.h"
+#include "hartley/hartley.h"
 #include "wht/wht.h"
 
 namespace gen {
 
 std::vector<Kernel> all_kernels() {
-  std::vector<Kernel> result = dft_complex::kernels();
-  for (Kernel& kernel : wht::kernels()) result.push_back(std::move(kernel));
+  std::vector<Kernel> result;
+  for (const auto& family :
+       {dft_complex::kernels(), dft_real::kernels(), hartley::kernels(), wht::kernels()}) {
+    result.insert(result.end(), family.begin(), family.end());
+  }
   return result;
 }
 

@@ -4,9 +4,19 @@
 
 namespace gen {
 
+namespace {
+
+// Twice a value is exact in any precision.
+bool is_doubling(const Graph& graph, const Node& node) {
+  return node.lane_count == 1 && graph.factor(node, 0) == Number(2);
+}
+
+}  // namespace
+
 Graph widen_products(const Graph& old) {
   const std::vector<int> uses = use_counts(old);
-  std::vector<bool> is_double(old.size());
+  std::vector<bool> is_double(old.size()), is_output(old.size());
+  for (const Output& out : old.outputs()) is_output[out.from.node] = true;
 
   // The copy of an operand in the precision in which its reader takes it.
   const auto read = [&](Graph& graph, const NewValues& new_value, NodeId id, Precision wanted) {
@@ -22,6 +32,7 @@ Graph widen_products(const Graph& old) {
     const Node& node = old[id];
     switch (node.op) {
       case Op::kMul: {
+        if (is_doubling(old, node)) return copy_node(old, id, graph, new_value);
         is_double[id] = true;
         Value operand = read(graph, new_value, node.a, Precision::kDouble);
         const bool is_sum = old[node.a].op == Op::kAdd || old[node.a].op == Op::kSub;
@@ -41,9 +52,11 @@ Graph widen_products(const Graph& old) {
         const Value b = read(graph, new_value, node.b, precision);
         return graph.add(a, node.op == Op::kSub ? -b : b);
       }
-      case Op::kScale: {
-        const Value scaled = graph.scale(new_value[node.a]);
-        return is_double[node.a] ? graph.round(scaled) : scaled;
+      case Op::kScale:
+      case Op::kFromZero: {
+        is_double[id] = is_double[node.a];
+        const Value value = copy_node(old, id, graph, new_value);
+        return is_double[id] && is_output[id] ? graph.round(value) : value;
       }
       default:
         return copy_node(old, id, graph, new_value);

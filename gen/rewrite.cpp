@@ -1,5 +1,7 @@
 #include "gen/rewrite.h"
 
+#include <algorithm>
+
 namespace gen {
 namespace {
 
@@ -45,6 +47,57 @@ Graph fold_products(const Graph& old) {
     const Value a = folded(sum.a), b = folded(sum.b);
     return graph.add(a, sum.op == Op::kSub ? -b : b);
   });
+}
+
+namespace {
+
+// c * (k * x), where nothing else reads k * x, as (c * k) * x.
+Graph fold_chains(const Graph& old) {
+  const std::vector<int> uses = use_counts(old);
+  return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
+    const Node& node = old[id];
+    if (node.op != Op::kMul || old[node.a].op != Op::kMul || uses[node.a] != 1) {
+      return copy_node(old, id, graph, new_value);
+    }
+    Factors factors;
+    for (int lane = 0; lane < node.lane_count; ++lane) {
+      factors.push_back(old.factor(node, lane) * old.factor(old[node.a], lane));
+    }
+    return graph.mul(factors, new_value[old[node.a].a]);
+  });
+}
+
+int live_size(const Graph& graph) {
+  const std::vector<bool> live = graph.live_nodes();
+  return static_cast<int>(std::count(live.begin(), live.end(), true));
+}
+
+}  // namespace
+
+Graph fold_all_products(const Graph& old) {
+  Graph graph = old;
+  for (;;) {
+    Graph folded = fold_products(fold_chains(graph));
+    if (live_size(folded) == live_size(graph)) return graph;
+    graph = std::move(folded);
+  }
+}
+
+Graph renumber_elements(const Graph& old, const std::function<int(int)>& source,
+                        const std::function<int(int)>& destination) {
+  Graph graph(old.sample_precision());
+  NewValues new_value(old.size());
+  const std::vector<bool> live = old.live_nodes();
+  for (NodeId id = 0; id < old.size(); ++id) {
+    if (!live[id]) continue;
+    graph.begin_stage(old.stages()[old[id].stage]);
+    new_value[id] = old[id].op == Op::kInput ? graph.input(source(old[id].element))
+                                             : copy_node(old, id, graph, new_value);
+  }
+  for (const Output& out : old.outputs()) {
+    graph.output(destination(out.element), new_value[out.from.node], out.from.index);
+  }
+  return graph;
 }
 
 Graph absorb_sign_flips(const Graph& old) {

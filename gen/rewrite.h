@@ -2,6 +2,7 @@
 // so.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "gen/graph.h"
@@ -15,6 +16,14 @@ std::vector<int> use_counts(const Graph& graph);
 // two products. The one rewrite that does change roundings: networks ask for it by name, and their
 // kernels' roundings are those behind it.
 Graph fold_products(const Graph& graph);
+
+// fold_products(), and c * (k * x) as (c k) * x where nobody else reads k * x, until nothing is
+// left to fold.
+Graph fold_all_products(const Graph& graph);
+
+// A scalar graph with the elements of source and destination renumbered.
+Graph renumber_elements(const Graph& graph, const std::function<int(int)>& source,
+                        const std::function<int(int)>& destination);
 
 // Moves sign flips of single lanes into the constants of the multiplication behind or before them:
 // c * flip(x) and flip(c * x) become (flip c) * x.

@@ -2,10 +2,13 @@
  *
  * This header declares all of libzulgens8.so.6.1. It is C89 and C++.
  *
- *   zulgen/types.h        result codes, scale flags, sample types
- *   zulgen/version.h      which library this is
- *   zulgen/dft_complex.h  complex DFT, forward and inverse
- *   zulgen/wht.h          Walsh-Hadamard transform
+ *   zulgen/types.h             result codes, scale flags, sample types
+ *   zulgen/version.h           which library this is
+ *   zulgen/dft_complex.h       complex DFT, forward and inverse
+ *   zulgen/dft_real_forward.h  real DFT to a packed spectrum
+ *   zulgen/dft_real_inverse.h  and back
+ *   zulgen/hartley.h           Hartley transform
+ *   zulgen/wht.h               Walsh-Hadamard transform
  *
  * Every function is safe to call from any number of threads at once, as long as no two calls write
  * to the same array. None prints, exits or keeps anything after it returns. None allocates, but for
@@ -17,6 +20,9 @@
 #include "zulgen/types.h"
 
 #include "zulgen/dft_complex.h"
+#include "zulgen/dft_real_forward.h"
+#include "zulgen/dft_real_inverse.h"
+#include "zulgen/hartley.h"
 #include "zulgen/version.h"
 #include "zulgen/wht.h"
 

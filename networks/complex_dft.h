@@ -83,7 +83,10 @@ class ComplexDft {
         return cooley_tukey(tree, blocks, groups, exponent);
       case Tree::Kind::kPrimeFactor:
         return prime_factor(tree, blocks, groups, exponent);
+      case Tree::Kind::kByData:
+        return transform(tree.parts[1], blocks, groups, exponent);
       case Tree::Kind::kLeaf:
+      case Tree::Kind::kMirrored:
         return leaves(tree, blocks, groups, exponent);
       default:
         throw std::invalid_argument("no complex transform: " + to_string(tree));

@@ -24,6 +24,10 @@ class OddDft {
       case Tree::Kind::kFolded:
       case Tree::Kind::kFoldedComplex:
         return folded(tree, x);
+      case Tree::Kind::kByData:
+        return run(tree.parts[2], x);
+      case Tree::Kind::kProductsFolded:
+        return alternating(tree, x);
       case Tree::Kind::kCooleyTukey:
         return cooley_tukey(tree, x);
       case Tree::Kind::kPrimeFactor:
@@ -63,7 +67,7 @@ class OddDft {
     std::vector<C> y;
     if (tree.kind == Tree::Kind::kFoldedComplex) {
       OneSample<V> form;
-      y = ComplexDft(form).run(half, RealDft<V>::rotated(z, Turn(1, 4), e_), e_);
+      y = ComplexDft(form).run(half, dft_.rotated(z, Turn(1, 4), e_), e_);
     } else {
       y = dft_.skewed(half, z, Turn(1, 4), e_);
     }
@@ -72,7 +76,7 @@ class OddDft {
     return bins;
   }
 
-  // Columns of odd length a; the row of their last, real bin lies between the bins again.
+  // Of columns of odd length a, the row of their last, real bin lies between the bins again.
   Bins<V> cooley_tukey(const Tree& tree, const std::vector<V>& x) {
     const int a = tree.first().length, b = tree.second().length, n = a * b;
     std::vector<Bins<V>> columns;
@@ -89,6 +93,7 @@ class OddDft {
         RealDft<V>::set_odd(bins, n, 2 * k1 + 1 + 2 * a * k2, row[k2]);
       }
     }
+    if (a % 2 == 0) return bins;
     const Bins<V> last = run(tree.second(), RealDft<V>::real_row(columns, a / 2));
     for (std::size_t k2 = 0; k2 < last.size(); ++k2) {
       RealDft<V>::set_odd(bins, n, a * static_cast<int>(2 * k2 + 1), last[k2]);

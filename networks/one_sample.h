@@ -19,6 +19,7 @@ class OneSample {
   OneSample() = default;
   // The values are nodes of `graph`.
   explicit OneSample(gen::Graph& graph, const Sample& zero = {}) : graph_(&graph), zero_(zero) {}
+  explicit OneSample(Diagonal diagonal) : diagonal_(diagonal) {}
 
   Packed pack(const std::vector<Sample>& samples) { return samples[0]; }
   Sample unpack(const Packed& packed, int) { return packed; }
@@ -32,7 +33,9 @@ class OneSample {
     const Number re = constants[0].re, im = conjugate ? -constants[0].im : constants[0].im;
     return {re * z.re - im * z.im, re * z.im + im * z.re};
   }
-  Packed twiddle(const Packed& z, const std::vector<Turn>& turns) { return rotate(z, turns[0]); }
+  Packed twiddle(const Packed& z, const std::vector<Turn>& turns) {
+    return rotate(z, turns[0], diagonal_);
+  }
   bool choose() { return false; }
   void begin_stage(const std::string& name, const std::string& description) {
     if (graph_ != nullptr) graph_->begin_stage({name, description});
@@ -41,6 +44,7 @@ class OneSample {
  private:
   gen::Graph* graph_ = nullptr;
   Sample zero_ = {};
+  Diagonal diagonal_ = Diagonal::kProductsFirst;
   int next_pack_ = 0;
 };
 

@@ -7,17 +7,6 @@
 
 namespace networks {
 
-// The parts of a spectrum that exist, in order: re, im of every bin, real bins without im.
-template <class V, class IsReal>
-std::vector<V> parts_of(const Bins<V>& bins, IsReal is_real) {
-  std::vector<V> parts;
-  for (std::size_t k = 0; k < bins.size(); ++k) {
-    parts.push_back(bins[k].re);
-    if (!is_real(static_cast<int>(k))) parts.push_back(bins[k].im);
-  }
-  return parts;
-}
-
 // a * constant, four multiplications.
 template <class V>
 Complex<V> times(const ComplexNumber& constant, const Complex<V>& a) {
@@ -53,16 +42,18 @@ Bins<V> RealDft<V>::rader(const RaderRecipe& recipe, const std::vector<V>& x) {
   }
   const auto even_is_real = [half](int k) { return k == 0 || 2 * k == half; };
   const auto odd_is_real = [half](int k) { return 2 * k + 1 == half; };
+  const RealStyle odd_style = style_.mirrored(recipe.odd_diagonal_reversed);
   const std::vector<V> cosine = run_mirrored(
       half,
       [&](const std::vector<gen::Expr>& in) {
-        return parts_of(RealDft<gen::Expr>(table_).real(recipe.even, in), even_is_real);
+        return parts_of(RealDft<gen::Expr>(table_, style_.mirrored()).real(recipe.even, in),
+                        even_is_real);
       },
       parts_of(even, even_is_real));
   const std::vector<V> sine = run_mirrored(
       half,
       [&](const std::vector<gen::Expr>& in) {
-        return parts_of(RealDft<gen::Expr>(table_).odd(recipe.odd, in), odd_is_real);
+        return parts_of(RealDft<gen::Expr>(table_, odd_style).odd(recipe.odd, in), odd_is_real);
       },
       parts_of(odd_bins, odd_is_real));
 

@@ -10,7 +10,8 @@ using gen::Quad;
 
 RaderTable::RaderTable(const std::vector<Row>& rows) {
   for (const Row& row : rows) {
-    RaderRecipe recipe{parse_tree(row.input), parse_tree(row.even), parse_tree(row.odd), row.turn};
+    RaderRecipe recipe{parse_tree(row.input), parse_tree(row.even), parse_tree(row.odd), row.turn,
+                       row.odd_diagonal_reversed};
     const Tree leaf = parse_tree(row.leaf);
     if (recipe.prime() != leaf.length || 2 * recipe.even.length + 1 != leaf.length ||
         recipe.odd.length != recipe.even.length) {

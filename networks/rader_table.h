@@ -23,6 +23,8 @@ struct RaderRecipe {
   // The constants are those of the output shifted by this many places, turned by that many n-th of
   // a turn a bin.
   int turn = 0;
+  // Whether turns by 45 degrees in the odd half are done the other way round (turn.h).
+  bool odd_diagonal_reversed = false;
 
   int prime() const { return input.length + 1; }
 };
@@ -36,6 +38,7 @@ class RaderTable {
     const char* even;
     const char* odd;
     int turn = 0;
+    bool odd_diagonal_reversed = false;
   };
   explicit RaderTable(const std::vector<Row>& rows);
 

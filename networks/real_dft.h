@@ -20,15 +20,33 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "networks/complex_dft.h"
 #include "networks/mirror.h"
+#include "networks/one_sample.h"
 #include "networks/rader_table.h"
 #include "networks/real_leaves.h"
 #include "networks/tree.h"
 #include "networks/turn.h"
 
 namespace networks {
+
+// What families do differently.
+struct RealStyle {
+  SumOrder sum_order = SumOrder::kFirstSampleFirst;
+  // Complex data as complex values; else real and imaginary parts by themselves.
+  bool complex_as_a_whole = false;
+  Diagonal diagonal = Diagonal::kProductsFirst;
+  Diagonal mirrored_diagonal = Diagonal::kProductsFirst;  // in networks made to be mirrored
+
+  RealStyle mirrored(bool reversed = false) const {
+    RealStyle style = *this;
+    if (!reversed) std::swap(style.diagonal, style.mirrored_diagonal);
+    return style;
+  }
+};
 
 template <class V>
 class OddDft;
@@ -38,14 +56,25 @@ class RealDft {
  public:
   using C = Complex<V>;
 
-  explicit RealDft(const RaderTable& table) : table_(table) {}
+  explicit RealDft(const RaderTable& table, const RealStyle& style = {})
+      : table_(table), style_(style) {}
 
   Bins<V> real(const Tree& tree, const std::vector<V>& x, int e = 1) {
     return real(tree, x, e, /*is_part=*/false);
   }
 
-  // Real and imaginary parts are transformed by themselves: two additions an output more.
   std::vector<C> complex(const Tree& tree, const std::vector<C>& z, int e = 1) {
+    if (!style_.complex_as_a_whole) return complex_by_parts(tree, z, e);
+    OneSample<V> form(style_.diagonal);
+    const auto leaf = [this](const Tree& leaf, const std::vector<C>& x) {
+      if (leaf.kind == Tree::Kind::kMirrored) return mirrored_complex(leaf.first(), x);
+      return leaf.length <= 5 ? short_dft(x) : complex_by_parts(leaf, x, 1);
+    };
+    return ComplexDft<OneSample<V>>(form, leaf).run(tree, z, e);
+  }
+
+  // Two additions an output more than two real transforms.
+  std::vector<C> complex_by_parts(const Tree& tree, const std::vector<C>& z, int e) {
     const int n = tree.length;
     std::vector<V> re, im;
     for (const C& sample : z) {
@@ -78,9 +107,11 @@ class RealDft {
  private:
   friend class OddDft<V>;
 
-  static std::vector<C> rotated(std::vector<C> z, const Turn& u, int e) {
+  std::vector<C> rotated(std::vector<C> z, const Turn& u, int e) const {
     const long n = static_cast<long>(z.size());
-    for (long j = 1; j < n; ++j) z[j] = rotate(z[j], Turn(-e * j * u.numerator, n * u.denominator));
+    for (long j = 1; j < n; ++j) {
+      z[j] = rotate(z[j], Turn(-e * j * u.numerator, n * u.denominator), style_.diagonal);
+    }
     return z;
   }
 
@@ -112,6 +143,10 @@ class RealDft {
         return prime_factor(tree, x, e, is_part);
       case Tree::Kind::kSplit:
         return split(tree, x, e);
+      case Tree::Kind::kByData:
+        return real(tree.first(), x, e, is_part);
+      case Tree::Kind::kProductsFolded:
+        return with_products_folded(tree.first(), x, e);
       default:
         throw std::invalid_argument("no transform at the bins: " + to_string(tree));
     }
@@ -142,13 +177,17 @@ class RealDft {
       case 4:
         return real_dft4(x);
       case 5:
-        return real_dft5(x);
+        return real_dft5(x, style_.sum_order);
       case 7:
       case 11:
-        return real_dft_direct(x);
+        return real_dft_direct(x, style_.sum_order);
     }
     throw std::invalid_argument("no form of " + to_string(tree));
   }
+
+  // In graph_network.h.
+  std::vector<C> mirrored_complex(const Tree& tree, const std::vector<C>& z);
+  Bins<V> with_products_folded(const Tree& tree, const std::vector<V>& x, int e);
 
   // In rader.h.
   Bins<V> rader(const RaderRecipe& recipe, const std::vector<V>& x);
@@ -260,9 +299,11 @@ class RealDft {
   }
 
   const RaderTable& table_;
+  const RealStyle style_;
 };
 
 }  // namespace networks
 
+#include "networks/graph_network.h"
 #include "networks/odd_dft.h"
 #include "networks/rader.h"

@@ -14,6 +14,17 @@ namespace networks {
 template <class V>
 using Bins = std::vector<Complex<V>>;
 
+// The parts of a spectrum that exist, in order: re, im of every bin, real bins without im.
+template <class V, class IsReal>
+std::vector<V> parts_of(const Bins<V>& bins, IsReal is_real) {
+  std::vector<V> parts;
+  for (std::size_t k = 0; k < bins.size(); ++k) {
+    parts.push_back(bins[k].re);
+    if (!is_real(static_cast<int>(k))) parts.push_back(bins[k].im);
+  }
+  return parts;
+}
+
 template <class V>
 Bins<V> real_dft2(const std::vector<V>& x) {
   return {{x[0] + x[1], {}}, {x[0] - x[1], {}}};
@@ -33,13 +44,17 @@ Bins<V> real_dft4(const std::vector<V>& x) {
   return {{a + c, {}}, {x[0] - x[2], -(x[1] - x[3])}, {a - c, {}}};
 }
 
+// Whether X[0] of an odd length adds x[0] to the first pair or to the sum of all pairs.
+enum class SumOrder { kFirstSampleFirst, kFirstSampleLast };
+
 // Direct symmetric form: 12 additions, 8 multiplications.
 template <class V>
-Bins<V> real_dft5(const std::vector<V>& x) {
+Bins<V> real_dft5(const std::vector<V>& x, SumOrder order = SumOrder::kFirstSampleFirst) {
   const Number c1 = gen::cos_of_turn(1, 5), c2 = -gen::cos_of_turn(2, 5);
   const Number s1 = gen::sin_of_turn(1, 5), s2 = gen::sin_of_turn(2, 5);
   const V a = x[1] + x[4], b = x[3] + x[2], f = x[1] - x[4], e = x[3] - x[2];
-  return {{(x[0] + a) + b, {}},
+  const bool first = order == SumOrder::kFirstSampleFirst;
+  return {{first ? (x[0] + a) + b : (a + b) + x[0], {}},
           {(c1 * a + x[0]) - c2 * b, -(s1 * f - s2 * e)},
           {(x[0] - c2 * a) + c1 * b, -(s2 * f + s1 * e)}};
 }
@@ -66,10 +81,13 @@ struct SymmetricParts {
 
 template <class V>
 SymmetricParts<V> symmetric_parts(int n, const V& x0, const std::vector<V>& a,
-                                  const std::vector<V>& b) {
+                                  const std::vector<V>& b,
+                                  SumOrder order = SumOrder::kFirstSampleFirst) {
   const int h = (n - 1) / 2;
-  SymmetricParts<V> parts{x0 + a[0], {}, {}};
+  const bool first = order == SumOrder::kFirstSampleFirst;
+  SymmetricParts<V> parts{first ? x0 + a[0] : a[0], {}, {}};
   for (int k = 1; k < h; ++k) parts.sum = parts.sum + a[k];
+  if (!first) parts.sum = parts.sum + x0;
   for (int j = 1; j <= h; ++j) {
     V cosine = x0 + gen::cos_of_turn(j, n) * a[0];
     V sine = gen::sin_of_turn(j, n) * b[0];
@@ -85,16 +103,16 @@ SymmetricParts<V> symmetric_parts(int n, const V& x0, const std::vector<V>& a,
 
 // Direct symmetric form of any odd prime: (n^2 - 1) / 2 additions, (n - 1)^2 / 2 multiplications.
 template <class V>
-Bins<V> real_dft_direct(const std::vector<V>& x) {
+Bins<V> real_dft_direct(const std::vector<V>& x, SumOrder order = SumOrder::kFirstSampleFirst) {
   const int n = static_cast<int>(x.size());
   std::vector<V> a, b;
   for (int k = 1; k <= (n - 1) / 2; ++k) {
     a.push_back(x[k] + x[n - k]);
-    b.push_back(x[k] - x[n - k]);
+    b.push_back(-(x[k] - x[n - k]));
   }
-  const SymmetricParts<V> parts = symmetric_parts(n, x[0], a, b);
+  const SymmetricParts<V> parts = symmetric_parts(n, x[0], a, b, order);
   Bins<V> bins = {{parts.sum, {}}};
-  for (std::size_t j = 0; j < a.size(); ++j) bins.push_back({parts.cosine[j], -parts.sine[j]});
+  for (std::size_t j = 0; j < a.size(); ++j) bins.push_back({parts.cosine[j], parts.sine[j]});
   return bins;
 }
 

@@ -16,15 +16,20 @@ struct Notation {
 };
 
 constexpr Notation kNotations[] = {
-    {Tree::Kind::kCooleyTukey, "CT", 2},   {Tree::Kind::kPrimeFactor, "PFA", 2},
-    {Tree::Kind::kAlternating, "alt", 1},  {Tree::Kind::kFolded, "Z", 1},
-    {Tree::Kind::kFoldedComplex, "Zc", 1}, {Tree::Kind::kSplit, "split", 2},
-    {Tree::Kind::kRader, "Rader", 2},      {Tree::Kind::kChirp, "chirp", 1},
+    {Tree::Kind::kCooleyTukey, "CT", 2},      {Tree::Kind::kPrimeFactor, "PFA", 2},
+    {Tree::Kind::kAlternating, "alt", 1},     {Tree::Kind::kFolded, "Z", 1},
+    {Tree::Kind::kFoldedComplex, "Zc", 1},    {Tree::Kind::kSplit, "split", 2},
+    {Tree::Kind::kByData, "by", 3},           {Tree::Kind::kMirrored, "mirror", 1},
+    {Tree::Kind::kProductsFolded, "fold", 1}, {Tree::Kind::kRader, "Rader", 2},
+    {Tree::Kind::kChirp, "chirp", 1},
 };
 
 int length_of(Tree::Kind kind, const std::vector<Tree>& parts) {
   switch (kind) {
     case Tree::Kind::kAlternating:
+    case Tree::Kind::kByData:
+    case Tree::Kind::kMirrored:
+    case Tree::Kind::kProductsFolded:
     case Tree::Kind::kChirp:
       return parts[0].length;
     case Tree::Kind::kRader:
@@ -62,9 +67,10 @@ class Parser {
       tree.length = length_of(tree.kind, tree.parts);
       const bool coprime = std::gcd(tree.parts[0].length, tree.parts.back().length) == 1;
       if (tree.kind == Tree::Kind::kPrimeFactor && !coprime) fail();
-      const bool equal = tree.parts[0].length == tree.parts.back().length;
-      if (tree.kind == Tree::Kind::kSplit || tree.kind == Tree::Kind::kRader) {
-        if (!equal) fail();
+      const bool takes_equal = tree.kind == Tree::Kind::kSplit || tree.kind == Tree::Kind::kRader ||
+                               tree.kind == Tree::Kind::kByData;
+      for (const Tree& part : tree.parts) {
+        if (takes_equal && part.length != tree.parts[0].length) fail();
       }
       return tree;
     }

@@ -5,12 +5,15 @@
 //   7, 11r      a leaf: a block of that length, in the form that the letters name
 //
 // The first argument is the stage that touches the input. 4 is the radix-4 block CT(2, 2). Networks
-// on real data (real_dft.h) know three more kinds:
+// on real data (real_dft.h) know more kinds:
 //
 //   alt(t)      t with alternating signs of its input
 //   Z(t), Zc(t) a real sequence of even length folded into a complex one of half the length, for t;
 //               t runs on real and imaginary parts by themselves, or on complex values (Zc)
 //   split(s, t) sums and differences of the two halves; s takes the former, t the latter
+//   by(s, t, u) s on real data, t on complex data, u between the bins
+//   mirror(t)   on complex data, the mirror image of t with the conjugate root (mirror.h)
+//   fold(t)     t with products of products folded into one constant
 //
 // A whole complex transform of prime length p is one of
 //
@@ -33,6 +36,9 @@ struct Tree {
     kFolded,
     kFoldedComplex,
     kSplit,
+    kByData,
+    kMirrored,
+    kProductsFolded,
     kRader,
     kChirp
   };

@@ -24,10 +24,13 @@ struct Turn {
   friend bool operator==(const Turn&, const Turn&) = default;
 };
 
-// z * root, with the signs of the root's parts kept outside the constants. An odd multiple of 45
-// degrees has parts of one magnitude, which takes one product of z.
+// How z is turned by an odd multiple of 45 degrees: the parts of that root have one magnitude g, so
+// the products g re, g im come before or behind the sum and the difference of the two.
+enum class Diagonal { kProductsFirst, kSumsFirst };
+
+// z * root, with the signs of the root's parts kept outside the constants.
 template <class C>
-C rotate(const C& z, const Turn& turn) {
+C rotate(const C& z, const Turn& turn, Diagonal diagonal = Diagonal::kProductsFirst) {
   switch (turn.denominator) {
     case 1:
       return z;
@@ -38,9 +41,12 @@ C rotate(const C& z, const Turn& turn) {
   }
   const ComplexNumber w = turn.root();
   if (turn.denominator == 8) {
-    const C product = w.re.magnitude() * z;
-    const C turned = minus_i(product);
-    return (w.re.is_negative() ? -product : product) + (w.im.is_negative() ? turned : -turned);
+    const auto sum = [&](const C& z) {
+      const C turned = minus_i(z);
+      return (w.re.is_negative() ? -z : z) + (w.im.is_negative() ? turned : -turned);
+    };
+    const Number g = w.re.magnitude();
+    return diagonal == Diagonal::kProductsFirst ? sum(g * z) : g * sum(z);
   }
   return w.re * z - w.im * minus_i(z);
 }

@@ -1,12 +1,11 @@
-// The arithmetic of every kernel against the tables of wanted counts.
+// The arithmetic of the complex kernels against the tables of wanted counts.
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <map>
 
 #include "dft_complex/dft_complex.h"
 #include "gen/count.h"
-#include "wht/wht.h"
+#include "networks/tree.h"
 
 namespace {
 
@@ -128,25 +127,6 @@ TEST(Counts, DoublePrecisionKernelsSwapOnceAPairOfBins) {
       swaps += graph[node.picks[0].node].op != gen::Op::kInput;
     }
     EXPECT_EQ(swaps, (kernel.length - 1) / 2) << kernel.name;
-  }
-}
-
-// One addition a sample and stage, half of them subtractions, and one product a sample.
-TEST(Counts, OfWalshHadamardKernels) {
-  for (const gen::Kernel& kernel : wht::kernels()) {
-    const gen::Graph graph = kernel.graph();
-    const std::vector<bool> live = graph.live_nodes();
-    std::map<gen::Op, int> lanes;
-    for (gen::NodeId id = 0; id < graph.size(); ++id) {
-      if (live[id]) lanes[graph[id].op] += graph[id].lane_count;
-    }
-    const int stages = std::countr_zero(static_cast<unsigned>(kernel.length));
-    const int additions = stages * kernel.length;
-    EXPECT_EQ(gen::count_operations(graph), (gen::Counts{additions, 0})) << kernel.name;
-    EXPECT_EQ(lanes[gen::Op::kAdd], additions / 2) << kernel.name;
-    EXPECT_EQ(lanes[gen::Op::kSub], additions / 2) << kernel.name;
-    EXPECT_EQ(lanes[gen::Op::kScale], kernel.length) << kernel.name;
-    EXPECT_EQ(lanes[gen::Op::kFlipSigns], 0) << kernel.name;
   }
 }
 

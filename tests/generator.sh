@@ -4,7 +4,10 @@
 set -eu
 build=$1
 generate=$build/bin/zulgen-generate
-shards="--shards dft_complex_32fc=3 --shards dft_complex_64fc=2 --shards wht_32f=1 --shards wht_64f=1"
+shards=""
+for family in dft_complex_32fc dft_complex_64fc dft_real_32f dft_real_64f hartley_32f hartley_64f wht_32f wht_64f; do
+  shards="$shards --shards $family=3"
+done
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 
@@ -25,8 +28,10 @@ name=zulgDFTInv_CToC_12_32fc
 "$generate" --counts | grep -qx "$name 96 16" || fail "--counts"
 "$generate" --print $name | grep -q "ZULGEN_EXPORT zulgResult $name" || fail "--print"
 "$generate" --dot $name | grep -q "digraph $name" || fail "--dot"
+"$generate" --variants $name --order "live 0" --order "bisect 2" | grep -q "zulgResult ${name}_1" ||
+  fail "--variants"
 for wrong in "" "--recipe" "--recipe none" "--out" "--sing" "--out $work --shards x" \
-  "--out $work --order fast"; do
+  "--variants $name --order fast"; do
   code=0
   # shellcheck disable=SC2086
   "$generate" $wrong >"$work/out" 2>"$work/error" || code=$?

@@ -41,7 +41,7 @@ check_library libzulgens8.so.6.1 libzulcore.so.6.1
 "$build/bin/zulgen-generate" --list | sort >"$work/manifest"
 expect "exports that aren't in the manifest, or the reverse" \
   "$(comm -3 "$work/exports" "$work/manifest" | xargs)" ""
-grep -ohE 'zulg(enGet|DFT|WHT)[A-Za-z0-9_]+' "$source"/include/zulgen/*.h |
+grep -ohE 'zulg(enGet|DFT|Hartley|WHT)[A-Za-z0-9_]+' "$source"/include/zulgen/*.h |
   grep -vE '_N_|BufferSize$' | sort -u >"$work/header"
 expect "functions that the header doesn't declare, or doesn't have" \
   "$(comm -3 "$work/header" "$work/manifest" | xargs)" ""

@@ -8,10 +8,13 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <random>
 #include <vector>
 
+#include "gen/count.h"
 #include "tests/harness/guarded_array.h"
+#include "wht/wht.h"
 #include "zulcore.h"
 #include "zulgen.h"
 
@@ -241,6 +244,25 @@ TEST(WhtBufferSize, IsTheStatedOne) {
     EXPECT_EQ(zulgWHTGetBufferSize_32f(order, &size), ZULG_ERR_SIZE);
     EXPECT_EQ(zulgWHTGetBufferSize_64f(order, &size), ZULG_ERR_SIZE);
     EXPECT_EQ(size, -1);
+  }
+}
+
+// Half of them are subtractions; besides there is one product a sample.
+TEST(WhtCounts, AreOneAdditionASampleAndStage) {
+  for (const gen::Kernel& kernel : wht::kernels()) {
+    const gen::Graph graph = kernel.graph();
+    const std::vector<bool> live = graph.live_nodes();
+    std::map<gen::Op, int> lanes;
+    for (gen::NodeId id = 0; id < graph.size(); ++id) {
+      if (live[id]) lanes[graph[id].op] += graph[id].lane_count;
+    }
+    const int stages = std::countr_zero(static_cast<unsigned>(kernel.length));
+    const int additions = stages * kernel.length;
+    EXPECT_EQ(gen::count_operations(graph), (gen::Counts{additions, 0})) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kAdd], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kSub], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kScale], kernel.length) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kFlipSigns], 0) << kernel.name;
   }
 }
 

@@ -12,9 +12,9 @@
  * Returns ZULG_OK; ZULG_ERR_NULL_PTR if a pointer is null; ZULG_ERR_FLAG if the flag is none of the
  * four. After an error dst is as it was.
  *
- * Pointers need the alignment of float or double alone. Both on 16 bytes take a faster body, with the same
- * bits in the result. Nothing outside the N samples is read or written. Infinities and NaNs go
- * through the arithmetic. Re-entrant. */
+ * Pointers need the alignment of float or double alone. Both on 16 bytes take a faster body, with
+ * the same bits in the result. Nothing outside the N samples is read or written. Infinities and NaNs
+ * go through the arithmetic. Re-entrant. */
 #ifndef ZULGEN_DFT_COMPLEX_H
 #define ZULGEN_DFT_COMPLEX_H
 
