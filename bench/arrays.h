@@ -16,6 +16,8 @@ struct Arrays {
   alignas(64) char destination[65536];
   alignas(64) char work[73728];
 
+  void clear() { std::memset(source, 0, sizeof source); }
+
   void fill(gen::Precision precision) {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> uniform(-1, 1);

@@ -59,8 +59,10 @@ Graph turn_final_subtractions(const Graph& old, int wanted) {
     for (const Turn& turn : turns) {
       if (id != turn.output) continue;
       const Node& difference = old[turn.difference];
+      graph.begin_stage(old.stages()[difference.stage]);
       Value value = graph.sub(new_value[difference.b], new_value[difference.a]);
       if (turn.product != gen::kNoNode) value = graph.mul(old.factors(old[turn.product]), value);
+      graph.begin_stage(old.stages()[old[turn.scaled].stage]);
       value = graph.scale(value);
       return is_flipped(old, id) ? value : graph.settle_sign(-value);
     }

@@ -1,22 +1,27 @@
 /* The four-step method. With N = 64 * 32, n = 32 r + c and k = q + 64 p,
  *
  *   X[q + 64 p] = sum over c of  w32^(c p)  *  wN^(c q)  *  sum over r of  x[32 r + c] w64^(r q)
- *                 4. transpose   3. rows       2. twiddle   1. columns
+ *                 4. rows          3. twiddle            2. columns
  *
  * where wL = exp(-2 pi i / L): the input is read as a matrix of 64 rows and 32 columns, every
- * column is transformed, then every row. The inverse conjugates all three w. */
+ * column is transformed, then every row. The columns are real, so of their bins q those up to 32
+ * are enough; row 0 is real, too, and row q holds the conjugates of row 64 - q. The inverse goes
+ * the other way, with all three w conjugated. */
 #include "long_dft.h"
 
 #include <math.h>
 #include <stddef.h>
 
-typedef zulgResult Kernel(const zulg32fc* src, zulg32fc* dst, zulgScaleFlag flag);
+enum { HALF = LONG_DFT_ROWS / 2, ROWS = LONG_DFT_ROWS, COLUMNS = LONG_DFT_COLUMNS };
+
+/* Row q at [q]; as CCS, a row or a column of real data is an array of complex bins. */
+typedef zulg32fc Matrix[HALF + 1][COLUMNS] __attribute__((aligned(16)));
 
 static const double kPi = 3.14159265358979323846;
 
 void long_dft_init(LongDft* dft) {
-  for (int q = 0; q < LONG_DFT_ROWS; ++q) {
-    for (int c = 0; c < LONG_DFT_COLUMNS; ++c) {
+  for (int q = 0; q <= HALF; ++q) {
+    for (int c = 0; c < COLUMNS; ++c) {
       const double angle = -2 * kPi * q * c / LONG_DFT_LENGTH;
       dft->twiddle[q][c].re = cos(angle);
       dft->twiddle[q][c].im = sin(angle);
@@ -24,41 +29,83 @@ void long_dft_init(LongDft* dft) {
   }
 }
 
-/* `sign` is that of the twiddle factors' angle relative to the table. As the factor that a flag
- * selects is a power of the length, that of 64 times that of 32 is that of 2048. */
-static zulgResult transform(const LongDft* dft, const zulg32fc* src, zulg32fc* dst,
-                            zulgScaleFlag flag, Kernel* column_dft, Kernel* row_dft, float sign) {
-  /* On 16 bytes, where the kernels are fastest. Rows and columns are multiples of 16 bytes. */
-  zulg32fc column[LONG_DFT_ROWS] __attribute__((aligned(16)));
-  zulg32fc matrix[LONG_DFT_ROWS][LONG_DFT_COLUMNS] __attribute__((aligned(16)));
-  if (src == NULL || dst == NULL) return ZULG_ERR_NULL_PTR;
+/* z times w, or times its conjugate if `sign` is -1. */
+static zulg32fc turned(zulg32fc z, zulg32fc w, float sign) {
+  const float im = sign * w.im;
+  const zulg32fc product = {z.re * w.re - z.im * im, z.re * im + z.im * w.re};
+  return product;
+}
 
-  for (int c = 0; c < LONG_DFT_COLUMNS; ++c) {
-    for (int r = 0; r < LONG_DFT_ROWS; ++r) column[r] = src[LONG_DFT_COLUMNS * r + c];
-    const zulgResult result = column_dft(column, column, flag);
-    if (result != ZULG_OK) return result;
-    for (int q = 0; q < LONG_DFT_ROWS; ++q) {
-      const zulg32fc w = {dft->twiddle[q][c].re, sign * dft->twiddle[q][c].im};
-      matrix[q][c].re = column[q].re * w.re - column[q].im * w.im;
-      matrix[q][c].im = column[q].re * w.im + column[q].im * w.re;
+/* Bins of row q > 0: the first half stands at 64 p + q, the rest as conjugates on the way back. */
+static void spread_row(int q, const zulg32fc* row, zulg32fc* bins) {
+  for (int p = 0; p < COLUMNS; ++p) {
+    const int k = q + ROWS * p;
+    if (k < LONG_DFT_BINS) {
+      bins[k] = row[p];
+    } else {
+      bins[LONG_DFT_LENGTH - k].re = row[p].re;
+      bins[LONG_DFT_LENGTH - k].im = -row[p].im;
     }
   }
-  for (int q = 0; q < LONG_DFT_ROWS; ++q) {
-    const zulgResult result = row_dft(matrix[q], matrix[q], flag);
-    if (result != ZULG_OK) return result;
+}
+
+static void gather_row(int q, const zulg32fc* bins, zulg32fc* row) {
+  for (int p = 0; p < COLUMNS; ++p) {
+    const int k = q + ROWS * p;
+    row[p] = bins[k < LONG_DFT_BINS ? k : LONG_DFT_LENGTH - k];
+    if (k >= LONG_DFT_BINS) row[p].im = -row[p].im;
   }
-  for (int p = 0; p < LONG_DFT_COLUMNS; ++p) {
-    for (int q = 0; q < LONG_DFT_ROWS; ++q) dst[q + LONG_DFT_ROWS * p] = matrix[q][p];
+}
+
+zulgResult long_dft_forward(const LongDft* dft, const zulg32f* samples, zulg32fc* bins,
+                            zulgScaleFlag flag) {
+  zulg32f column[ROWS], first_row[COLUMNS];
+  zulg32fc column_bins[HALF + 1], first_bins[COLUMNS / 2 + 1];
+  Matrix matrix;
+  zulgResult result;
+  if (samples == NULL || bins == NULL) return ZULG_ERR_NULL_PTR;
+
+  for (int c = 0; c < COLUMNS; ++c) {
+    for (int r = 0; r < ROWS; ++r) column[r] = samples[COLUMNS * r + c];
+    result = zulgDFTFwd_RToCCS_64_32f(column, (zulg32f*)column_bins, flag);
+    if (result != ZULG_OK) return result;
+    first_row[c] = column_bins[0].re;
+    for (int q = 1; q <= HALF; ++q) matrix[q][c] = turned(column_bins[q], dft->twiddle[q][c], 1);
+  }
+  result = zulgDFTFwd_RToCCS_32_32f(first_row, (zulg32f*)first_bins, flag);
+  if (result != ZULG_OK) return result;
+  for (int p = 0; p <= COLUMNS / 2; ++p) bins[ROWS * p] = first_bins[p];
+  for (int q = 1; q <= HALF; ++q) {
+    result = zulgDFTFwd_CToC_32_32fc(matrix[q], matrix[q], flag);
+    if (result != ZULG_OK) return result;
+    spread_row(q, matrix[q], bins);
   }
   return ZULG_OK;
 }
 
-zulgResult long_dft_forward(const LongDft* dft, const zulg32fc* src, zulg32fc* dst,
+zulgResult long_dft_inverse(const LongDft* dft, const zulg32fc* bins, zulg32f* samples,
                             zulgScaleFlag flag) {
-  return transform(dft, src, dst, flag, zulgDFTFwd_CToC_64_32fc, zulgDFTFwd_CToC_32_32fc, 1);
-}
+  zulg32f column[ROWS], first_row[COLUMNS];
+  zulg32fc column_bins[HALF + 1], first_bins[COLUMNS / 2 + 1];
+  Matrix matrix;
+  zulgResult result;
+  if (samples == NULL || bins == NULL) return ZULG_ERR_NULL_PTR;
 
-zulgResult long_dft_inverse(const LongDft* dft, const zulg32fc* src, zulg32fc* dst,
-                            zulgScaleFlag flag) {
-  return transform(dft, src, dst, flag, zulgDFTInv_CToC_64_32fc, zulgDFTInv_CToC_32_32fc, -1);
+  for (int p = 0; p <= COLUMNS / 2; ++p) first_bins[p] = bins[ROWS * p];
+  result = zulgDFTInv_CCSToR_32_32f((const zulg32f*)first_bins, first_row, flag);
+  if (result != ZULG_OK) return result;
+  for (int q = 1; q <= HALF; ++q) {
+    gather_row(q, bins, matrix[q]);
+    result = zulgDFTInv_CToC_32_32fc(matrix[q], matrix[q], flag);
+    if (result != ZULG_OK) return result;
+  }
+  for (int c = 0; c < COLUMNS; ++c) {
+    column_bins[0].re = first_row[c];
+    column_bins[0].im = 0;
+    for (int q = 1; q <= HALF; ++q) column_bins[q] = turned(matrix[q][c], dft->twiddle[q][c], -1);
+    result = zulgDFTInv_CCSToR_64_32f((const zulg32f*)column_bins, column, flag);
+    if (result != ZULG_OK) return result;
+    for (int r = 0; r < ROWS; ++r) samples[COLUMNS * r + c] = column[r];
+  }
+  return ZULG_OK;
 }

@@ -19,76 +19,59 @@ static const double kRoundoff = 0x1p-24; /* u: the relative error of one roundin
  * is computed from X here is in double. */
 const SpectrogramErrors kAllowedErrors = {.parseval = 8, .round_trip = 16};
 
-/* One transform's worth: frame `a` is the real part and frame `b` the imaginary part of x. */
-typedef struct FramePair {
-  zulg32fc x[FRAME_LENGTH] __attribute__((aligned(16)));
-  zulg32fc spectrum[FRAME_LENGTH] __attribute__((aligned(16)));
-  zulg32fc back[FRAME_LENGTH] __attribute__((aligned(16)));
-  double power_a[FRAME_BINS];
-  double power_b[FRAME_BINS];
-} FramePair;
+typedef struct Frame {
+  zulg32f x[FRAME_LENGTH];
+  zulg32fc spectrum[FRAME_BINS];
+  zulg32f back[FRAME_LENGTH];
+  double power[FRAME_BINS];
+} Frame;
 
 static float sample_at(const float* samples, size_t count, int64_t at) {
   return at >= 0 && (uint64_t)at < count ? samples[at] : 0;
 }
 
-static void load_frames(const float* samples, size_t count, const float* window, size_t frame,
-                        FramePair* pair) {
+static void load_frame(const float* samples, size_t count, const float* window, size_t number,
+                       Frame* frame) {
   for (int n = 0; n < FRAME_LENGTH; ++n) {
-    const int64_t at = (int64_t)frame * FRAME_HOP - FRAME_LENGTH / 2 + n;
-    pair->x[n].re = window[n] * sample_at(samples, count, at);
-    pair->x[n].im = window[n] * sample_at(samples, count, at + FRAME_HOP);
+    const int64_t at = (int64_t)number * FRAME_HOP - FRAME_LENGTH / 2 + n;
+    frame->x[n] = window[n] * sample_at(samples, count, at);
   }
 }
 
-/* A and B are the parts of X = A + i B that have the symmetry of a real signal's spectrum:
- * 2 A[k] = X[k] + conj X[N - k] and 2 i B[k] = X[k] - conj X[N - k]. */
-static void separate_frames(FramePair* pair) {
+static void find_power(Frame* frame) {
   for (int k = 0; k < FRAME_BINS; ++k) {
-    const zulg32fc x = pair->spectrum[k];
-    const zulg32fc mirrored = pair->spectrum[(FRAME_LENGTH - k) % FRAME_LENGTH];
-    const double a_re = 0.5 * ((double)x.re + mirrored.re);
-    const double a_im = 0.5 * ((double)x.im - mirrored.im);
-    const double b_re = 0.5 * ((double)x.im + mirrored.im);
-    const double b_im = 0.5 * ((double)mirrored.re - x.re);
-    pair->power_a[k] = a_re * a_re + a_im * a_im;
-    pair->power_b[k] = b_re * b_re + b_im * b_im;
+    const double re = frame->spectrum[k].re, im = frame->spectrum[k].im;
+    frame->power[k] = re * re + im * im;
   }
 }
 
-/* |A| / sqrt(N) of a real signal from the half of its spectrum that is not a mirror image. */
+/* |X| / sqrt(N) from the half of the spectrum that is not a mirror image. */
 static double norm_by_spectrum(const double* power) {
   double sum = power[0] + power[FRAME_BINS - 1];
   for (int k = 1; k < FRAME_BINS - 1; ++k) sum += 2 * power[k];
   return sqrt(sum / FRAME_LENGTH);
 }
 
-/* In units of u, relative to the norm of both frames, as the rounding errors of the louder one are
- * in both. FLT_MIN is more than underflow can add, and gives silence an error of 0. A NaN comes out
- * as infinity: fmax() would drop it. */
+/* In units of u, relative to the frame's norm. FLT_MIN is more than underflow can add, and gives
+ * silence an error of 0. A NaN comes out as infinity: fmax() would drop it. */
 static double relative(double error, double norm) {
   return isnan(error) ? INFINITY : fabs(error) / (kRoundoff * norm + FLT_MIN);
 }
 
-static void measure_errors(const FramePair* pair, SpectrogramErrors* worst) {
-  double a = 0, b = 0, difference = 0;
+static void measure_errors(const Frame* frame, SpectrogramErrors* worst) {
+  double sum = 0, difference = 0;
   for (int n = 0; n < FRAME_LENGTH; ++n) {
-    const zulg32fc x = pair->x[n];
-    const double re = (double)pair->back[n].re - x.re;
-    const double im = (double)pair->back[n].im - x.im;
-    a += (double)x.re * x.re;
-    b += (double)x.im * x.im;
-    difference += re * re + im * im;
+    const double x = frame->x[n], error = frame->back[n] - x;
+    sum += x * x;
+    difference += error * error;
   }
-  const double norm = sqrt(a + b);
-  const double parseval_a = relative(norm_by_spectrum(pair->power_a) - sqrt(a), norm);
-  const double parseval_b = relative(norm_by_spectrum(pair->power_b) - sqrt(b), norm);
-  worst->parseval = fmax(worst->parseval, fmax(parseval_a, parseval_b));
+  const double norm = sqrt(sum);
+  worst->parseval = fmax(worst->parseval, relative(norm_by_spectrum(frame->power) - norm, norm));
   worst->round_trip = fmax(worst->round_trip, relative(sqrt(difference), norm));
 }
 
-static void store_frame(const double* power, size_t frame, Spectrogram* spectrogram) {
-  float* levels = spectrogram->levels + frame * FRAME_BINS;
+static void store_frame(const double* power, size_t number, Spectrogram* spectrogram) {
+  float* levels = spectrogram->levels + number * FRAME_BINS;
   for (int k = 0; k < FRAME_BINS; ++k) {
     levels[k] = 10 * log10(power[k]);
     spectrogram->mean_power[k] += power[k] / spectrogram->frame_count;
@@ -114,19 +97,18 @@ const char* spectrogram_compute(const float* samples, size_t count, double rate,
   if (spectrogram->levels == NULL) return "not enough memory for its spectrogram";
 
   LongDft dft;
-  FramePair pair;
+  Frame frame;
   float window[FRAME_LENGTH];
   long_dft_init(&dft);
   for (int n = 0; n < FRAME_LENGTH; ++n) window[n] = 0.5 - 0.5 * cos(2 * kPi * n / FRAME_LENGTH);
-  for (size_t frame = 0; frame < spectrogram->frame_count; frame += 2) {
-    load_frames(samples, count, window, frame, &pair);
-    if (long_dft_forward(&dft, pair.x, pair.spectrum, ZULG_SCALE_INV_BY_N) != ZULG_OK ||
-        long_dft_inverse(&dft, pair.spectrum, pair.back, ZULG_SCALE_INV_BY_N) != ZULG_OK)
+  for (size_t number = 0; number < spectrogram->frame_count; ++number) {
+    load_frame(samples, count, window, number, &frame);
+    if (long_dft_forward(&dft, frame.x, frame.spectrum, ZULG_SCALE_INV_BY_N) != ZULG_OK ||
+        long_dft_inverse(&dft, frame.spectrum, frame.back, ZULG_SCALE_INV_BY_N) != ZULG_OK)
       return "a transform refused its arguments";
-    separate_frames(&pair);
-    measure_errors(&pair, &spectrogram->worst);
-    store_frame(pair.power_a, frame, spectrogram);
-    if (frame + 1 < spectrogram->frame_count) store_frame(pair.power_b, frame + 1, spectrogram);
+    find_power(&frame);
+    measure_errors(&frame, &spectrogram->worst);
+    store_frame(frame.power, number, spectrogram);
   }
   make_relative(spectrogram);
   return NULL;

@@ -79,7 +79,10 @@ std::string emit_kernel(const Kernel& kernel) {
     return "(" + list + (kernel.has_work_argument ? ", " + work : "") + ")";
   };
   const std::string body_name = kernel.name.substr(4);
-  const std::string scale = vectors ? (element == "float" ? "allF4(" : "allD2(") : "(";
+  const bool is_chosen = kernel.scale_rule == ScaleRule::kBoth;
+  const std::string factor = is_chosen ? "factor" : "kScale.by_flag[flag]";
+  const std::string scale =
+      vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
   std::ostringstream text;
   text << heading(kernel, graph);
@@ -89,8 +92,7 @@ std::string emit_kernel(const Kernel& kernel) {
   text << check_text(kernel) << emit_constants(code);
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
-  text << "  const auto s = " << scale
-       << (kernel.scale_rule == ScaleRule::kBoth ? "factor" : "kScale.by_flag[flag]") << ");\n\n";
+  text << "  const auto s = " << scale << ";\n\n";
   BodyStyle style;
   style.memory_policy = vectors;
   text << emit_body(code, schedule(code, kernel.order), style);

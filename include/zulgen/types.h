@@ -15,14 +15,15 @@ typedef int zulgResult;
 /* The factor that a transform multiplies its result by: exactly one of these four. They are no bits
  * to be combined. N is the number of points.
  *
- *                          forward DFT   inverse DFT
- *   ZULG_SCALE_FWD_BY_N    1/N           1
- *   ZULG_SCALE_INV_BY_N    1             1/N
- *   ZULG_SCALE_BY_SQRT_N   1/sqrt(N)     1/sqrt(N)
- *   ZULG_SCALE_NONE        1             1
+ *                          forward DFT   inverse DFT   Hartley, Walsh-Hadamard
+ *   ZULG_SCALE_FWD_BY_N    1/N           1             1/N
+ *   ZULG_SCALE_INV_BY_N    1             1/N           1/N
+ *   ZULG_SCALE_BY_SQRT_N   1/sqrt(N)     1/sqrt(N)     1/sqrt(N)
+ *   ZULG_SCALE_NONE        1             1             1
  *
- * A forward and an inverse call with the same flag of the first three give back the input; with
- * ZULG_SCALE_NONE, N times the input. The factor is a constant of the sample type, the nearest to
+ * A forward and an inverse DFT with the same flag of the first three give back the input; with
+ * ZULG_SCALE_NONE, N times the input. So does a self-inverse transform called twice with
+ * ZULG_SCALE_BY_SQRT_N, or once with 1/N and once with 1. The factor is a constant of the sample type, the nearest to
  * the quotient or root, and is multiplied into every output last, also if it is 1.
  *
  * Errors are found in this order: null pointers first, then the flag. */
