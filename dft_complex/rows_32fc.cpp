@@ -41,7 +41,7 @@ const std::vector<Row32fc> kRows32fc = {
     {32, "CT(4, CT(4, 2))", kSideBySide, "bisect 14", "bisect 22"},
     {33, "PFA(11, 3)", kSideBySide, "bisect 11", "bisect 11"},
     {34, "PFA(2, 17)", kInLanes, "bisect 0", "bisect 0"},
-    {35, "PFA(5, 7)", kSideBySide, "bisect 1", "bisect 14"},
+    {35, "PFA(5, 7)", kInLanes, "live 0", "live 0"},
     {36, "PFA(4, CT(3, 3))", kInLanes, "bisect 5", "bisect 4"},
     {37, "Rader(PFA(4, CT(3, 3)), PFA(CT(3, 3), 4))", kInLanes, "bisect 7", "bisect 7"},
     {38, "PFA(2, 19)", kInLanes, "bisect 22", "bisect 11"},

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -135,16 +136,17 @@ class Graph {
 };
 
 // Rebuilds a graph node by node into a new one. `make(new_graph, old_id, new_value)` gives the new
-// value of a live old node; `new_value` is that of every earlier one.
+// value of a live old node; `new_value` is that of every earlier one. Elements of the destination
+// may get other numbers.
 using NewValues = std::vector<Value>;
-template <class Make>
-Graph rebuild(const Graph& old, Make make);
+template <class Make, class Element = std::identity>
+Graph rebuild(const Graph& old, Make make, Element element = {});
 
 // The copy of `old[id]` in `graph`, with its operands translated.
 Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_value);
 
-template <class Make>
-Graph rebuild(const Graph& old, Make make) {
+template <class Make, class Element>
+Graph rebuild(const Graph& old, Make make, Element element) {
   Graph graph(old.sample_precision());
   NewValues new_value(old.size());
   const std::vector<bool> live = old.live_nodes();
@@ -154,7 +156,7 @@ Graph rebuild(const Graph& old, Make make) {
     new_value[id] = make(graph, id, new_value);
   }
   for (const Output& out : old.outputs()) {
-    graph.output(out.element, new_value[out.from.node], out.from.index);
+    graph.output(element(out.element), new_value[out.from.node], out.from.index);
   }
   return graph;
 }

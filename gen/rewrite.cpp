@@ -85,19 +85,11 @@ Graph fold_all_products(const Graph& old) {
 
 Graph renumber_elements(const Graph& old, const std::function<int(int)>& source,
                         const std::function<int(int)>& destination) {
-  Graph graph(old.sample_precision());
-  NewValues new_value(old.size());
-  const std::vector<bool> live = old.live_nodes();
-  for (NodeId id = 0; id < old.size(); ++id) {
-    if (!live[id]) continue;
-    graph.begin_stage(old.stages()[old[id].stage]);
-    new_value[id] = old[id].op == Op::kInput ? graph.input(source(old[id].element))
-                                             : copy_node(old, id, graph, new_value);
-  }
-  for (const Output& out : old.outputs()) {
-    graph.output(destination(out.element), new_value[out.from.node], out.from.index);
-  }
-  return graph;
+  const auto make = [&](Graph& graph, NodeId id, const NewValues& new_value) {
+    return old[id].op == Op::kInput ? graph.input(source(old[id].element))
+                                    : copy_node(old, id, graph, new_value);
+  };
+  return rebuild(old, make, destination);
 }
 
 Graph absorb_sign_flips(const Graph& old) {
