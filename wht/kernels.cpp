@@ -44,7 +44,7 @@ Kernel kernel(Precision precision, int order) {
   kernel.loads_halves = true;
   kernel.is_generated = order <= kLastShortOrder;
   if (kernel.is_generated) {
-    kernel.recipe = "stages";
+    kernel.recipe = "stages 0 to " + std::to_string(order - 1);
     kernel.order = gen::parse_order((single ? kOrders32f : kOrders64f)[order]);
   } else {
     kernel.recipe = recipe(single ? plan_of<float>(order) : plan_of<double>(order));
