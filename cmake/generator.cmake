@@ -3,7 +3,8 @@
 file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/gen/*.cpp
   ${PROJECT_SOURCE_DIR}/networks/*.cpp
-  ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp)
+  ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
+  ${PROJECT_SOURCE_DIR}/dct4/kernels/*.cpp)
 list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
 
 add_executable(zulgen-generate gen/main.cpp ${ZULGEN_CODEGEN_SOURCES})
@@ -25,6 +26,7 @@ set(ZULGEN_ORDER "" CACHE STRING
 set(ZULGEN_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
 file(MAKE_DIRECTORY ${ZULGEN_GENERATED_DIR})
 set(ZULGEN_EXPORTS ${ZULGEN_GENERATED_DIR}/zulgens8.map)
+set(ZULGEN_BODIES ${ZULGEN_GENERATED_DIR}/dct4_32f.h ${ZULGEN_GENERATED_DIR}/dct4_64f.h)
 set(ZULGEN_KERNEL_SOURCES)
 set(arguments --out ${ZULGEN_GENERATED_DIR})
 foreach(shards IN LISTS ZULGEN_SHARDS)
@@ -41,7 +43,7 @@ endif()
 
 # Only files that change are written, so that a change in one family compiles that family alone.
 add_custom_command(
-  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_EXPORTS}
+  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_BODIES} ${ZULGEN_EXPORTS}
   COMMAND zulgen-generate ${arguments}
   DEPENDS zulgen-generate
   COMMENT "Generating the kernels"

@@ -1,13 +1,14 @@
 # libzulgens8.so.6.1 and its companion libzulcore.so.6.1.
 
-add_library(zulgen_kernels OBJECT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_EXPORTS})
-target_include_directories(zulgen_kernels PRIVATE ${PROJECT_SOURCE_DIR})
+add_library(zulgen_kernels OBJECT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_EXPORTS} ${ZULGEN_BODIES}
+  dct4/dct4_32f.cpp dct4/dct4_64f.cpp)
+target_include_directories(zulgen_kernels PRIVATE ${PROJECT_SOURCE_DIR} ${ZULGEN_GENERATED_DIR})
 target_link_libraries(zulgen_kernels PRIVATE zulgen_kernel_code)
 set_target_properties(zulgen_kernels PROPERTIES
   CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 
 zulgen_shared_library(TARGET zulgens8 NAME zulgens8 EXPORTS ${ZULGEN_EXPORTS}
-  SOURCES frame/version.cpp $<TARGET_OBJECTS:zulgen_kernels>)
+  SOURCES frame/version.cpp $<TARGET_OBJECTS:zulgen_kernels> LIBRARIES zulcore m)
 target_include_directories(zulgens8 PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(zulgens8 PRIVATE zulgen_library_code)
 

@@ -33,6 +33,19 @@ void write_library(const std::string& directory, const Shards& shards,
                        texts[shard] + "\n}  // namespace zulgen\n");
     }
   }
+  std::map<std::string, std::string> headers;
+  for (const Body& body : all_bodies()) {
+    std::string& header = headers[body.family];
+    if (header.empty()) {
+      header = "// Generated from the tables of " + body.family +
+               "; a change belongs there.\n#pragma once\n\n#include \"frame/kernel.h\"\n"
+               "#include \"frame/vector.h\"\n\nnamespace zulgen {\n";
+    }
+    header += "\n" + emit_body_function(body);
+  }
+  for (const auto& [family, text] : headers) {
+    write_if_changed(directory + "/" + family + ".h", text + "\n}  // namespace zulgen\n");
+  }
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";
   write_if_changed(directory + "/zulgens8.map", exports + "  local:\n    *;\n};\n");

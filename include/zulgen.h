@@ -5,6 +5,7 @@
  *   zulgen/types.h        result codes, scale flags, sample types
  *   zulgen/version.h      which library this is
  *   zulgen/dft_complex.h  complex DFT, forward and inverse
+ *   zulgen/dct4.h         DCT-IV of a length chosen at run time
  *
  * Every function is safe to call from any number of threads at once, as long as no two calls write
  * to the same array. None prints, exits, allocates or keeps anything after it returns.
@@ -14,6 +15,7 @@
 
 #include "zulgen/types.h"
 
+#include "zulgen/dct4.h"
 #include "zulgen/dft_complex.h"
 #include "zulgen/version.h"
 
