@@ -61,13 +61,16 @@ static int run_first_stages(int rule, const FirstStages& stages) {
   return ZULG_ERR_CONTEXT;
 }
 
-// All skew transforms of an env8, in the columns from `in` and `out` on.
+// A split works on L columns at a time. What stands between its two steps are N rows of L samples,
+// which lie side by side at the beginning of its work buffer: so they stay in the cache from one
+// call to the next, where rows as far apart as those of the other buffers, a power of two, would
+// push one another out.
+
+// All skew transforms of an env8, from side by side rows to rows `row` samples apart.
 template <int r>
-static __attribute__((noinline)) void run_skew_sums(const env8* self, Sample* out,
+static __attribute__((noinline)) void run_skew_sums(const env8* self, Sample* out, int row,
                                                     const Sample* in) {
-  const int row = self->stride, M = self->M;
-  // Those of 16 and 32 have a second layer, whose table stands behind that of all first layers; or
-  // before it.
+  // Those of 16 and 32 have a second layer, whose table stands before or behind all of the first.
   constexpr int within = r > 8 ? r / 4 - 1 : r - 1, across = r > 8 ? r / 4 * 3 : 0;
   const Sample* within_table = self->table;
   const Sample* across_table = self->table;
@@ -76,64 +79,69 @@ static __attribute__((noinline)) void run_skew_sums(const env8* self, Sample* ou
   } else {
     within_table += 2 * L * across * self->sums;
   }
+  const int step = 2 * row * self->M;
+  Sample* direct = out;
+  Sample* mirrored = out + step - 2 * row;
   for (int kappa = 0; kappa < self->sums; ++kappa) {
-    const SourceRows<Sample> x = {in + 2 * kappa * r * row, row};
-    const RowPairs<Sample> y = {out + 2 * kappa * row, out + 2 * (M - 1 - kappa) * row, row,
-                                2 * M * row};
-    const Table<Sample> w = {within_table + 2 * L * within * kappa};
-    const Table<Sample> v = {across_table + 2 * L * across * kappa};
+    const SourceRows<Sample> x = {in, L};
+    const RowPairs<Sample> y = {direct, mirrored, row, step};
+    const Table<Sample> w = {within_table};
+    const Table<Sample> v = {across_table};
     if constexpr (r == 2) skew_sum_2(x, w, y);
     if constexpr (r == 4) skew_sum_4(x, w, y);
     if constexpr (r == 8) skew_sum_8(x, w, y);
     if constexpr (r == 16) skew_sum_16(x, w, v, y);
     if constexpr (r == 32) skew_sum_32(x, w, v, y);
+    in += 2 * L * r;
+    direct += 2 * row;
+    mirrored -= 2 * row;
+    within_table += 2 * L * within;
+    across_table += 2 * L * across;
   }
 }
 
-static int env8_compute(const env8* self, Sample* dst, const Sample* src, int in, int out) {
-  src += in;
-  dst += out;
+static int env8_compute(const env8* self, Sample* dst, int row, const Sample* src) {
   switch (self->rule) {
     case 1:
-      run_skew_sums<2>(self, dst, src);
+      run_skew_sums<2>(self, dst, row, src);
       return ZULG_OK;
     case 2:
-      run_skew_sums<4>(self, dst, src);
+      run_skew_sums<4>(self, dst, row, src);
       return ZULG_OK;
     case 3:
-      run_skew_sums<8>(self, dst, src);
+      run_skew_sums<8>(self, dst, row, src);
       return ZULG_OK;
     case 4:
-      run_skew_sums<16>(self, dst, src);
+      run_skew_sums<16>(self, dst, row, src);
       return ZULG_OK;
     case 5:
-      run_skew_sums<32>(self, dst, src);
+      run_skew_sums<32>(self, dst, row, src);
       return ZULG_OK;
   }
   return ZULG_ERR_CONTEXT;
 }
 
-static int env7_compute(const env7* self, Sample* dst, const Sample* src, int a, int b, int c);
+static int env7_compute(const env7* self, Sample* dst, int row, const Sample* src, int a, int b);
 
-// Inputs go forward from src[a] and backward from src[a + b], results to rows from dst[c] on.
-static int env9_compute(const env9* self, Sample* dst, const Sample* src, int a, int b, int c) {
+// Inputs go forward from src[a] and backward from src[a + b], results to rows from dst on.
+static int env9_compute(const env9* self, Sample* dst, int row, const Sample* src, int a, int b) {
   if (self->rule != 7) {
     return run_first_stages(
-        self->rule, {src + a, src + a + b - (self->M - 1) * self->inner_in, self->inner_in, dst + c,
-                     self->inner_out, self->r, self->in_stride, self->out_stride});
+        self->rule, {src + a, src + a + b - (self->M - 1) * self->inner_in, self->inner_in, dst,
+                     self->r * row, self->r, self->in_stride, row});
   }
   const auto nested = static_cast<const env7*>(EnvList_get(self->steps, 0));
   for (int i = 0; i < self->r; ++i) {
-    env7_compute(nested, dst, src, a + i * self->in_stride, b - 2 * i * self->in_stride,
-                 c + i * self->out_stride);
+    env7_compute(nested, dst + i * row, self->r * row, src, a + i * self->in_stride,
+                 b - 2 * i * self->in_stride);
   }
   return ZULG_OK;
 }
 
-static int env7_compute(const env7* self, Sample* dst, const Sample* src, int a, int b, int c) {
+static int env7_compute(const env7* self, Sample* dst, int row, const Sample* src, int a, int b) {
   if (self->rule != 1) return ZULG_ERR_CONTEXT;
-  env9_compute(static_cast<const env9*>(EnvList_get(self->second, 0)), self->work, src, a, b, c);
-  env8_compute(static_cast<const env8*>(EnvList_get(self->first, 0)), dst, self->work, c, c);
+  env9_compute(static_cast<const env9*>(EnvList_get(self->second, 0)), self->work, L, src, a, b);
+  env8_compute(static_cast<const env8*>(EnvList_get(self->first, 0)), dst, row, self->work);
   return ZULG_OK;
 }
 
@@ -145,7 +153,7 @@ static int env5_compute(const env5* self, Sample* dst, const Sample* src) {
   }
   const auto split = static_cast<const env7*>(EnvList_get(self->steps, 0));
   for (int i = 0; i < self->groups; ++i) {
-    env7_compute(split, dst, src, L * i, self->last - 2 * L * i, L * i);
+    env7_compute(split, dst + L * i, self->out_stride, src, L * i, self->last - 2 * L * i);
   }
   return ZULG_OK;
 }
@@ -155,26 +163,53 @@ static int env3_compute(const env3* self, Sample* dst, const Sample* src) {
   return env5_compute(static_cast<const env5*>(EnvList_get(self->steps, 0)), dst, src);
 }
 
+// L second stages, of one group.
+template <int d, class Destination>
+ZULGEN_BODY void second_stage(const Sample* rows, const Sample* table, const Destination& y) {
+  const Table<Sample> w = {table};
+  if constexpr (d == 1) second_stage_1(rows, w, y);
+  if constexpr (d == 2) second_stage_2(rows, w, y);
+  if constexpr (d == 4) second_stage_4(rows, w, y);
+  if constexpr (d == 8) second_stage_8(rows, w, y);
+  if constexpr (d == 16) second_stage_16(rows, w, y);
+  if constexpr (d == 32) second_stage_32(rows, w, y);
+}
+
+// All groups of an env4.
 template <int d>
 static __attribute__((noinline)) void run_second_stages(const env4* self, Sample* dst,
                                                         const Sample* src) {
   const int step = 2 * L * self->groups;
-  Sample* forward = dst;
-  Sample* reversed = dst + self->last - step * (2 * d - 1);
   const Sample* table = self->table;
+  Results<Sample, d> y = {dst, dst + self->last - step * (2 * d - 1), step};
   for (int g = 0; g < self->groups; ++g) {
-    const Table<Sample> w = {table};
-    const Results<Sample, d> y = {forward, reversed, step};
-    if constexpr (d == 1) second_stage_1(src, w, y);
-    if constexpr (d == 2) second_stage_2(src, w, y);
-    if constexpr (d == 4) second_stage_4(src, w, y);
-    if constexpr (d == 8) second_stage_8(src, w, y);
-    if constexpr (d == 16) second_stage_16(src, w, y);
-    if constexpr (d == 32) second_stage_32(src, w, y);
-    forward += L;
-    reversed -= L;
+    second_stage<d>(src, table, y);
+    y.forward += L;
+    y.reversed -= L;
     src += 2 * d * L;
     table += 2 * d * L;
+  }
+}
+
+// The same for long transforms, whose results are so far apart, a power of two, that they would
+// push one another out of the cache before the next group completes their cache lines: the results
+// of a line's groups are collected first. With d of 32, groups come in multiples of four.
+static __attribute__((noinline)) void run_second_stages_by_lines(const env4* self, Sample* dst,
+                                                                 const Sample* src) {
+  constexpr int d = 32, kLine = 64 / sizeof(Sample);
+  const int step = 2 * L * self->groups;
+  const Sample* table = self->table;
+  Results<Sample, d> y = {dst, dst + self->last - step * (2 * d - 1), step};
+  alignas(64) Sample lines[2 * d * kLine];
+  for (int g = 0; g < self->groups; g += kLine / L) {
+    for (int lane = 0; lane < kLine; lane += L) {
+      second_stage<d>(src, table, Rows<Sample>{lines + lane, kLine});
+      src += 2 * d * L;
+      table += 2 * d * L;
+    }
+    y.store_rows<kLine / L>(lines);
+    y.forward += kLine;
+    y.reversed -= kLine;
   }
 }
 
@@ -196,7 +231,11 @@ static int env4_compute(const env4* self, Sample* dst, const Sample* src) {
       run_second_stages<16>(self, dst, src);
       return ZULG_OK;
     case 6:
-      run_second_stages<32>(self, dst, src);
+      if (self->n < kLinesFrom) {
+        run_second_stages<32>(self, dst, src);
+      } else {
+        run_second_stages_by_lines(self, dst, src);
+      }
       return ZULG_OK;
   }
   return ZULG_ERR_CONTEXT;

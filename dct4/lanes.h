@@ -18,16 +18,23 @@ struct LanesOf<float> {
   static constexpr int kCount = 4;
   static F4 spread(float x) { return allF4(x); }
   // p[0], p[step], p[2 step], p[3 step].
-  static F4 gather(const float* p, int step) {
+  ZULGEN_BODY static F4 gather(const float* p, int step) {
     const F4 low = unpack_low(_mm_load_ss(p), _mm_load_ss(p + step));
     const F4 high = unpack_low(_mm_load_ss(p + 2 * step), _mm_load_ss(p + 3 * step));
     return shuffle<0, 1, 0, 1>(low, high);
   }
-  static void scatter(float* p, int step, F4 v) {
+  ZULGEN_BODY static void scatter(float* p, int step, F4 v) {
     _mm_store_ss(p, v);
     _mm_store_ss(p + step, shuffle<1, 1, 1, 1>(v, v));
     _mm_store_ss(p + 2 * step, unpack_high(v, v));
     _mm_store_ss(p + 3 * step, shuffle<3, 3, 3, 3>(v, v));
+  }
+  // The same from memory, which takes no shuffles.
+  ZULGEN_BODY static void scatter(float* p, int step, const float* v) {
+    p[0] = v[0];
+    p[step] = v[1];
+    p[2 * step] = v[2];
+    p[3 * step] = v[3];
   }
 };
 
@@ -36,10 +43,15 @@ struct LanesOf<double> {
   using Vector = D2;
   static constexpr int kCount = 2;
   static D2 spread(double x) { return allD2(x); }
-  static D2 gather(const double* p, int step) { return _mm_loadh_pd(_mm_load_sd(p), p + step); }
-  static void scatter(double* p, int step, D2 v) {
+  ZULGEN_BODY static D2 gather(const double* p, int step) {
+    return _mm_loadh_pd(_mm_load_sd(p), p + step);
+  }
+  ZULGEN_BODY static void scatter(double* p, int step, D2 v) {
     _mm_storel_pd(p, v);
     _mm_storeh_pd(p + step, v);
+  }
+  ZULGEN_BODY static void scatter(double* p, int step, const double* v) {
+    scatter(p, step, _mm_load_pd(v));
   }
 };
 
@@ -109,6 +121,28 @@ struct Results {
     } else {
       LanesOf<Sample>::scatter(reversed + (i - 1) / 2 * step, -1, v);
     }
+  }
+
+  // The results of B groups, which stand in `rows`: all vectors o[0], all o[1], ...
+  template <int B>
+  ZULGEN_BODY void store_rows(const Sample* rows) const {
+    constexpr int L = LanesOf<Sample>::kCount;
+    const auto up = [&](Sample * p) __attribute__((always_inline)) {
+#pragma GCC unroll 4
+      for (int i = 0; i < B; ++i) LanesOf<Sample>::scatter(p + i * L, 1, rows + i * L);
+      rows += B * L;
+    };
+    const auto down = [&](Sample * p) __attribute__((always_inline)) {
+#pragma GCC unroll 4
+      for (int i = 0; i < B; ++i) LanesOf<Sample>::scatter(p - i * L, -1, rows + i * L);
+      rows += B * L;
+    };
+    up(forward);
+    for (int l = 1; l < d; ++l) {
+      up(forward + l * step);
+      down(reversed + (l - 1) * step);
+    }
+    down(reversed + (d - 1) * step);
   }
 };
 
