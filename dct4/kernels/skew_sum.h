@@ -8,6 +8,7 @@
 
 #include <vector>
 
+#include "gen/expr.h"
 #include "networks/complex.h"
 
 namespace dct4 {
@@ -29,16 +30,28 @@ inline Rotation<Number> rotation_by_turn(long numerator, long denominator) {
   return {gen::cos_of_turn(numerator, denominator), gen::sin_of_turn(numerator, denominator)};
 }
 
+// A product whose constant keeps its sign, so that no sum of two comes out negated.
+template <class F, class V>
+V times(const F& factor, const V& a) {
+  return factor * a;
+}
+inline gen::Expr times(const Number& factor, const gen::Expr& a) {
+  const int lanes = (*a.graph)[a.value.node].lane_count;
+  return {a.graph, a.graph->mul(gen::Factors(lanes, factor), a.value)};
+}
+
 // z * exp(i angle).
 template <class F, class V>
 Complex<V> rotate(const Rotation<F>& by, const Complex<V>& z) {
-  return {by.cosine * z.re - by.sine * z.im, by.sine * z.re + by.cosine * z.im};
+  return {times(by.cosine, z.re) - times(by.sine, z.im),
+          times(by.sine, z.re) + times(by.cosine, z.im)};
 }
 
 // z * exp(-i angle).
 template <class F, class V>
 Complex<V> rotate_back(const Rotation<F>& by, const Complex<V>& z) {
-  return {by.cosine * z.re + by.sine * z.im, by.cosine * z.im - by.sine * z.re};
+  return {times(by.cosine, z.re) + times(by.sine, z.im),
+          times(by.cosine, z.im) - times(by.sine, z.re)};
 }
 
 enum class UpperHalf { kPlain, kConjugated };
