@@ -18,7 +18,7 @@ struct FirstStages {
 };
 
 template <int N>
-static __attribute__((noinline)) void run_first_stages(const FirstStages& stages) {
+static __attribute__((noinline)) int run_first_stages(const FirstStages& stages) {
   const Sample* forward = stages.forward;
   const Sample* reversed = stages.reversed;
   Sample* rows = stages.rows;
@@ -35,28 +35,23 @@ static __attribute__((noinline)) void run_first_stages(const FirstStages& stages
     reversed -= stages.in_step;
     rows += stages.out_step;
   }
+  return ZULG_OK;
 }
 
 static int run_first_stages(int rule, const FirstStages& stages) {
   switch (rule) {
     case 1:
-      run_first_stages<2>(stages);
-      return ZULG_OK;
+      return run_first_stages<2>(stages);
     case 2:
-      run_first_stages<4>(stages);
-      return ZULG_OK;
+      return run_first_stages<4>(stages);
     case 3:
-      run_first_stages<8>(stages);
-      return ZULG_OK;
+      return run_first_stages<8>(stages);
     case 4:
-      run_first_stages<16>(stages);
-      return ZULG_OK;
+      return run_first_stages<16>(stages);
     case 5:
-      run_first_stages<32>(stages);
-      return ZULG_OK;
+      return run_first_stages<32>(stages);
     case 6:
-      run_first_stages<64>(stages);
-      return ZULG_OK;
+      return run_first_stages<64>(stages);
   }
   return ZULG_ERR_CONTEXT;
 }
@@ -68,8 +63,8 @@ static int run_first_stages(int rule, const FirstStages& stages) {
 
 // All skew transforms of an env8, from side by side rows to rows `row` samples apart.
 template <int r>
-static __attribute__((noinline)) void run_skew_sums(const env8* self, Sample* out, int row,
-                                                    const Sample* in) {
+static __attribute__((noinline)) int run_skew_sums(const env8* self, Sample* out, int row,
+                                                   const Sample* in) {
   // Those of 16 and 32 have a second layer, whose table stands before or behind all of the first.
   constexpr int within = r > 8 ? r / 4 - 1 : r - 1, across = r > 8 ? r / 4 * 3 : 0;
   const Sample* within_table = self->table;
@@ -98,25 +93,21 @@ static __attribute__((noinline)) void run_skew_sums(const env8* self, Sample* ou
     within_table += 2 * L * within;
     across_table += 2 * L * across;
   }
+  return ZULG_OK;
 }
 
 static int env8_compute(const env8* self, Sample* dst, int row, const Sample* src) {
   switch (self->rule) {
     case 1:
-      run_skew_sums<2>(self, dst, row, src);
-      return ZULG_OK;
+      return run_skew_sums<2>(self, dst, row, src);
     case 2:
-      run_skew_sums<4>(self, dst, row, src);
-      return ZULG_OK;
+      return run_skew_sums<4>(self, dst, row, src);
     case 3:
-      run_skew_sums<8>(self, dst, row, src);
-      return ZULG_OK;
+      return run_skew_sums<8>(self, dst, row, src);
     case 4:
-      run_skew_sums<16>(self, dst, row, src);
-      return ZULG_OK;
+      return run_skew_sums<16>(self, dst, row, src);
     case 5:
-      run_skew_sums<32>(self, dst, row, src);
-      return ZULG_OK;
+      return run_skew_sums<32>(self, dst, row, src);
   }
   return ZULG_ERR_CONTEXT;
 }
@@ -177,8 +168,8 @@ ZULGEN_BODY void second_stage(const Sample* rows, const Sample* table, const Des
 
 // All groups of an env4.
 template <int d>
-static __attribute__((noinline)) void run_second_stages(const env4* self, Sample* dst,
-                                                        const Sample* src) {
+static __attribute__((noinline)) int run_second_stages(const env4* self, Sample* dst,
+                                                       const Sample* src) {
   const int step = 2 * L * self->groups;
   const Sample* table = self->table;
   Results<Sample, d> y = {dst, dst + self->last - step * (2 * d - 1), step};
@@ -189,13 +180,14 @@ static __attribute__((noinline)) void run_second_stages(const env4* self, Sample
     src += 2 * d * L;
     table += 2 * d * L;
   }
+  return ZULG_OK;
 }
 
 // The same for long transforms, whose results are so far apart, a power of two, that they would
 // push one another out of the cache before the next group completes their cache lines: the results
 // of a line's groups are collected first. With d of 32, groups come in multiples of four.
-static __attribute__((noinline)) void run_second_stages_by_lines(const env4* self, Sample* dst,
-                                                                 const Sample* src) {
+static __attribute__((noinline)) int run_second_stages_by_lines(const env4* self, Sample* dst,
+                                                                const Sample* src) {
   constexpr int d = 32, kLine = 64 / sizeof(Sample);
   const int step = 2 * L * self->groups;
   const Sample* table = self->table;
@@ -211,32 +203,24 @@ static __attribute__((noinline)) void run_second_stages_by_lines(const env4* sel
     y.forward += kLine;
     y.reversed -= kLine;
   }
+  return ZULG_OK;
 }
 
 static int env4_compute(const env4* self, Sample* dst, const Sample* src) {
   switch (self->rule) {
     case 1:
-      run_second_stages<1>(self, dst, src);
-      return ZULG_OK;
+      return run_second_stages<1>(self, dst, src);
     case 2:
-      run_second_stages<2>(self, dst, src);
-      return ZULG_OK;
+      return run_second_stages<2>(self, dst, src);
     case 3:
-      run_second_stages<4>(self, dst, src);
-      return ZULG_OK;
+      return run_second_stages<4>(self, dst, src);
     case 4:
-      run_second_stages<8>(self, dst, src);
-      return ZULG_OK;
+      return run_second_stages<8>(self, dst, src);
     case 5:
-      run_second_stages<16>(self, dst, src);
-      return ZULG_OK;
+      return run_second_stages<16>(self, dst, src);
     case 6:
-      if (self->n < kLinesFrom) {
-        run_second_stages<32>(self, dst, src);
-      } else {
-        run_second_stages_by_lines(self, dst, src);
-      }
-      return ZULG_OK;
+      return self->n < kLinesFrom ? run_second_stages<32>(self, dst, src)
+                                  : run_second_stages_by_lines(self, dst, src);
   }
   return ZULG_ERR_CONTEXT;
 }
@@ -255,14 +239,17 @@ static __attribute__((noinline, force_align_arg_pointer)) zulgResult two_stages(
   return ZULG_OK;
 }
 
+// Not inlined, so that the shortest lengths don't pay for the stack frames of these.
 static __attribute__((noinline)) zulgResult run_base_case_8(const Sample* src, Sample* dst) {
   base_case_8(src, dst);
   return ZULG_OK;
 }
+
 static __attribute__((noinline)) zulgResult run_base_case_16(const Sample* src, Sample* dst) {
   base_case_16(src, dst);
   return ZULG_OK;
 }
+
 static __attribute__((noinline)) zulgResult run_base_case_32(const Sample* src, Sample* dst) {
   base_case_32(src, dst);
   return ZULG_OK;

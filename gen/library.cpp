@@ -34,7 +34,8 @@ void write_library(const std::string& directory, const Shards& shards,
     }
   }
   std::map<std::string, std::string> headers;
-  for (const Body& body : all_bodies()) {
+  for (Body& body : all_bodies()) {
+    if (order) body.order = *order;
     std::string& header = headers[body.family];
     if (header.empty()) {
       header = "// Generated from the tables of " + body.family +

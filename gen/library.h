@@ -13,10 +13,10 @@ namespace gen {
 // side by side. Every family of the manifest has to be named.
 using Shards = std::map<std::string, int>;
 
-// Into `directory`: <family>.<shard>.cpp for every shard, <family>.h for families whose code calls
-// bodies, and zulgens8.map, the linker's version
-// script, which exports what the manifest lists and nothing else. `order` replaces every kernel's
-// own order. Throws std::runtime_error.
+// Into `directory`: <family>.<shard>.cpp for every shard; <family>.h for every family whose code,
+// written by hand, calls generated bodies; and zulgens8.map, the linker's version script, which
+// exports what the manifest lists and nothing else. `order` replaces the own order of every kernel
+// and body. Throws std::runtime_error.
 void write_library(const std::string& directory, const Shards& shards,
                    const std::optional<Order>& order);
 

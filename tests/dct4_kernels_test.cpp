@@ -1,134 +1,16 @@
-// The networks of the DCT-IV against what they stand for, and their arithmetic against the table.
+// The arithmetic of the DCT-IV's kernels against the table.
 #include <gtest/gtest.h>
-#include <quadmath.h>
 
+#include <algorithm>
 #include <map>
-#include <random>
 
-#include "dct4/kernels/base_case.h"
 #include "dct4/kernels/kernels.h"
 #include "gen/count.h"
 
 namespace {
 
-using dct4::ComplexBlock;
 using dct4::Kind;
 using dct4::Row;
-using gen::Quad;
-using networks::Complex;
-
-// Some hundred operations on values below 64, each rounded to 2^-113.
-constexpr double kTolerance = 1e-30;
-
-void expect_near(Quad actual, Quad expected, const std::string& what) {
-  EXPECT_LT(fabsq(actual - expected), kTolerance) << what;
-}
-
-std::vector<Quad> random_values(int count) {
-  std::mt19937 random(count);
-  std::uniform_real_distribution<float> uniform(-1, 1);
-  std::vector<Quad> result(count);
-  for (Quad& value : result) value = uniform(random);
-  return result;
-}
-
-ComplexBlock<Quad> random_block(int count) {
-  const std::vector<Quad> parts = random_values(2 * count);
-  ComplexBlock<Quad> result;
-  for (int i = 0; i < count; ++i) result.push_back({parts[2 * i], parts[2 * i + 1]});
-  return result;
-}
-
-Quad cos_pi(long numerator, long denominator) { return cosq(M_PIq * numerator / denominator); }
-Quad sin_pi(long numerator, long denominator) { return sinq(M_PIq * numerator / denominator); }
-
-void check_first_stage(const Row& row) {
-  const int n = row.size;
-  const std::vector<Quad> u = random_values(n);
-  const auto z = dct4::first_stage(u, std::span(row.radices));
-  for (int q = 0; q < n / 2; ++q) {
-    Complex<Quad> sum{0, 0};
-    for (int s = 0; s < n; ++s) {
-      const int t = s % 2 == 0 ? s / 2 : -(s + 1) / 2;
-      sum.re += u[s] * cos_pi(t * (2 * q + 1), n);
-      sum.im += u[s] * sin_pi(t * (2 * q + 1), n);
-    }
-    expect_near(z[q].re, sum.re, name(row));
-    expect_near(z[q].im, sum.im, name(row));
-  }
-}
-
-// lambda is 3/16, which stands for any.
-void check_skew_sum(const Row& row) {
-  const int r = row.size;
-  const auto rotations = [](int count, int first, int step, int size) {
-    std::vector<dct4::Rotation<Quad>> result;
-    for (int j = 0; j < count; ++j) {
-      for (int k = 1; k < size; ++k) {
-        const int sixteenths = k * (3 + 16 * (first + j));
-        result.push_back({cos_pi(sixteenths, 8 * step), sin_pi(sixteenths, 8 * step)});
-      }
-    }
-    return result;
-  };
-  const ComplexBlock<Quad> z = random_block(r);
-  const auto y = r <= 8 ? dct4::skew_sum(z, rotations(1, 0, r, r), dct4::UpperHalf::kConjugated)
-                        : dct4::skew_sum(z, rotations(1, 0, r / 4, r / 4),
-                                         rotations(r / 4, 0, r, 4), dct4::UpperHalf::kConjugated);
-  for (int a = 0; a < r; ++a) {
-    Complex<Quad> sum{0, 0};
-    for (int rho = 0; rho < r; ++rho) {
-      const Quad c = cos_pi(rho * (3 + 16 * a), 8 * r), s = sin_pi(rho * (3 + 16 * a), 8 * r);
-      sum = {sum.re + c * z[rho].re - s * z[rho].im, sum.im + s * z[rho].re + c * z[rho].im};
-    }
-    expect_near(y[a].re, sum.re, name(row));
-    expect_near(y[a].im, a < r / 2 ? sum.im : -sum.im, name(row));
-  }
-}
-
-void check_second_stage(int d, std::span<const int> radices, const std::string& what) {
-  const ComplexBlock<Quad> z = random_block(d);
-  const auto o = dct4::second_stage(z, radices, dct4::LastSign::kTurned);
-  for (int i = 0; i < 2 * d; ++i) {
-    const int l = (i + 1) / 2, sign = i % 2 == 1 && i < 2 * d - 1 ? -1 : 1;
-    Quad sum = 0;
-    for (int p = 0; p < d; ++p) {
-      sum += z[p].re * (l < d ? cos_pi((2 * p + 1) * l, 2 * d) : Quad(0));
-      sum += z[p].im * sign * sin_pi((2 * p + 1) * l, 2 * d);
-    }
-    expect_near(o[i], sum, what);
-  }
-}
-
-void check_base_case(const Row& row) {
-  const int n = row.size;
-  const std::vector<Quad> x = random_values(n), y = dct4::base_case(x, std::span(row.radices));
-  for (int k = 0; k < n; ++k) {
-    Quad sum = 0;
-    for (int j = 0; j < n; ++j) sum += x[j] * cos_pi((2 * j + 1) * (2 * k + 1), 4 * n);
-    expect_near(y[k], sum, name(row));
-  }
-}
-
-TEST(Dct4Networks, EqualTheirDefinitions) {
-  for (const Row& row : dct4::kRows) {
-    switch (row.kind) {
-      case Kind::kFirstStage:
-        check_first_stage(row);
-        break;
-      case Kind::kSkewSum:
-        check_skew_sum(row);
-        break;
-      case Kind::kSecondStage:
-        check_second_stage(row.size, row.radices, name(row));
-        break;
-      case Kind::kBaseCase:
-        check_base_case(row);
-        break;
-    }
-  }
-  check_second_stage(8, std::vector{4}, "second stage of the base case 32");
-}
 
 // Additions, multiplications; second stages with their rotations.
 const std::map<std::string, gen::Counts> kCounts = {
@@ -169,6 +51,30 @@ TEST(Dct4Kernels, HaveTheArithmeticOfTheTable) {
       EXPECT_EQ(statements(graph, {kMul, kProduct}), wanted.multiplications) << name(row);
       EXPECT_EQ(statements(graph, {kFlipSigns}), 0) << name(row);
     }
+  }
+}
+
+// A body reaches memory by its accessors alone, and products of two values count once.
+TEST(Bodies, CallTheirAccessors) {
+  gen::Body body;
+  body.name = "turn";
+  body.accessors = {"x", "w"};
+  body.graph = [] {
+    gen::Graph graph(gen::Precision::kDouble);
+    const gen::Value x = graph.fetch(0, 3, 2), w = graph.fetch(1, 7, 2);
+    const gen::Value product = graph.product(x, -w), again = graph.product(w, x);
+    EXPECT_EQ(product, -again);
+    EXPECT_EQ(graph.fetch(0, 3, 2), x);
+    EXPECT_NE(graph.fetch(1, 3, 2), x);
+    graph.output(5, graph.add(again, x));
+    return graph;
+  };
+  EXPECT_EQ(gen::count_operations(body.graph()), (gen::Counts{1, 1}));
+  const std::string text = gen::emit_body_function(body);
+  for (const char* part :
+       {"void turn(const auto& x, const auto& w, const auto& y)", "const D2 x3 = x.load(3);",
+        "const D2 w7 = w.load(7);", "const D2 t0 = x3 * w7;", "y.store(5, t1);"}) {
+    EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
   }
 }
 

@@ -1,6 +1,7 @@
 // The DCT-IV as the library exports it, in both sample types.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <random>
@@ -109,20 +110,6 @@ TYPED_TEST(Dct4, IsAccurate) {
     }
     const double bound = n == 4 ? 1.3 : 0.6 + 0.3 * log;
     EXPECT_LE(static_cast<double>(sqrtl(error / norm)), bound * TypeParam::kUnit) << n;
-  }
-}
-
-TYPED_TEST(Dct4, IsItsOwnInverse) {
-  for (int n : {2, 32, 64, 4096}) {
-    typename TestFixture::Plan plan(n);
-    const auto x = this->random_samples(n), y = plan.run(plan.run(x));
-    for (int k = 0; k < n; ++k) EXPECT_NEAR(y[k], x[k] * n / 2, n * 16 * TypeParam::kUnit) << n;
-    typename TestFixture::Samples impulse(n);
-    impulse[0] = 1;
-    const auto row = plan.run(impulse);
-    for (int k = 0; k < n; ++k) {
-      EXPECT_NEAR(row[k], std::cos(M_PI / (2 * n) * (k + 0.5)), 8 * TypeParam::kUnit) << n;
-    }
   }
 }
 
@@ -252,15 +239,6 @@ TYPED_TEST(Dct4, RunsPlansOfPowersPlusOne) {
     x[n] += 1;
     TypeParam::run(x.data(), again.data(), plan.spec);
     EXPECT_NE(again, y);
-  }
-}
-
-TYPED_TEST(Dct4, PassesOnWhatIsNotANumber) {
-  for (int n : {4, 64, 4096}) {
-    typename TestFixture::Plan plan(n);
-    auto x = this->random_samples(n);
-    x[n / 3] = NAN;
-    for (auto y : plan.run(x)) EXPECT_TRUE(std::isnan(y)) << n;
   }
 }
 

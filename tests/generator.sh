@@ -24,6 +24,9 @@ name=zulgDFTInv_CToC_12_32fc
 [ "$("$generate" --recipe $name)" = "PFA(4, 3)" ] || fail "--recipe"
 "$generate" --counts | grep -qx "$name 96 16" || fail "--counts"
 "$generate" --print $name | grep -q "ZULGEN_EXPORT zulgResult $name" || fail "--print"
+"$generate" --counts | grep -qx "owngDCT4_64fw7_first_stage_16 68 32" || fail "--counts of bodies"
+"$generate" --print owngDCT4_32fw7_base_case_8 | grep -q "void owngDCT4_32fw7_base_case_8" ||
+  fail "--print of bodies"
 "$generate" --dot $name | grep -q "digraph $name" || fail "--dot"
 for wrong in "" "--recipe" "--recipe none" "--out" "--sing" "--out $work --shards x" \
   "--out $work --order fast"; do
