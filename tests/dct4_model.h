@@ -6,11 +6,11 @@
 #include <complex>
 #include <functional>
 #include <span>
+#include <stdexcept>
 #include <vector>
 
 #include "dct4/kernels/base_case.h"
-#include "dct4/kernels/first_stage.h"
-#include "dct4/kernels/second_stage.h"
+#include "dct4/kernels/kernels.h"
 
 namespace dct4_model {
 
@@ -41,19 +41,15 @@ inline Rotation<Rounded<double>> table_pair(double x) {
   return {{std::cos(x * 3.14159265358979323846)}, {std::sin(x * 3.14159265358979323846)}};
 }
 
-// Rotation k of a skew transform of `size` values, moved by lambda + j. (In single precision, the
-// product is exact for all that occurs.)
+// The rotations of skew transforms of `size` values, moved by lambda + j for j below `count`, as
+// parts of one of `whole` values. (In single precision, the product is exact for all that occurs.)
 template <class T>
-Rotation<Rounded<T>> skew_rotation(T lambda, int j, int k, int size) {
-  const T moved = lambda + static_cast<T>(j);
-  return table_pair(static_cast<T>(static_cast<double>(moved) * 2 * k / size));
-}
-
-template <class T>
-std::vector<Rotation<Rounded<T>>> skew_rotations(T lambda, int j_count, int size, int whole) {
+std::vector<Rotation<Rounded<T>>> skew_rotations(T lambda, int count, int size, int whole) {
   std::vector<Rotation<Rounded<T>>> result;
-  for (int j = 0; j < j_count; ++j) {
-    for (int k = 1; k < size; ++k) result.push_back(skew_rotation(lambda, j, k, whole));
+  for (int j = 0; j < count; ++j) {
+    const double moved = static_cast<T>(lambda + static_cast<T>(j));
+    for (int k = 1; k < size; ++k)
+      result.push_back(table_pair(static_cast<T>(moved * 2 * k / whole)));
   }
   return result;
 }
@@ -66,19 +62,11 @@ ComplexBlock<Rounded<T>> skew_sum(const ComplexBlock<Rounded<T>>& z, T lambda, U
                         skew_rotations(lambda, r / 4, 4, r), upper);
 }
 
-inline std::vector<int> first_radices(int N) {
-  return N == 8    ? std::vector{2}
-         : N == 16 ? std::vector{4}
-         : N == 32 ? std::vector{2, 4}
-         : N == 64 ? std::vector{4, 4}
-                   : std::vector<int>{};
-}
-inline std::vector<int> second_radices(int d) {
-  return d == 4    ? std::vector{2}
-         : d == 8  ? std::vector{2, 2}
-         : d == 16 ? std::vector{2, 2, 2}
-         : d == 32 ? std::vector{4, 4}
-                   : std::vector<int>{};
+inline std::span<const int> radices(dct4::Kind kind, int size) {
+  for (const dct4::Row& row : dct4::kRows) {
+    if (row.kind == kind && row.size == size) return row.radices;
+  }
+  throw std::out_of_range("no such kernel");
 }
 
 // The divisors of the splits: 2, 4, 8, 16, 32 from halves of 4, 16, 32, 128, 512 on.
@@ -92,7 +80,7 @@ ComplexBlock<Rounded<T>> first_stage(int N, const std::function<Rounded<T>(int)>
   if (N <= 64) {
     std::vector<Rounded<T>> u;
     for (int s = 0; s < N; ++s) u.push_back(v(s % 2 == 0 ? s / 2 : -(s + 1) / 2));
-    return dct4::first_stage(u, std::span<const int>(first_radices(N)));
+    return dct4::first_stage(u, radices(dct4::Kind::kFirstStage, N));
   }
   const int r = split_divisor(N / 2), M = N / r;
   std::vector<ComplexBlock<Rounded<T>>> parts;
@@ -113,24 +101,30 @@ ComplexBlock<Rounded<T>> first_stage(int N, const std::function<Rounded<T>(int)>
   return z;
 }
 
-// What a transform of a length above 32 gives, bit for bit.
+// What a transform gives, bit for bit.
 template <class T>
 std::vector<T> transform(const std::vector<T>& x) {
   const int n = static_cast<int>(x.size()), d = split_divisor(n / 2), m = n / (2 * d);
+  std::vector<T> y(n);
+  if (n <= 32) {
+    std::vector<Rounded<T>> values;
+    for (T sample : x) values.push_back({sample});
+    values = dct4::base_case(values, radices(dct4::Kind::kBaseCase, n));
+    for (int k = 0; k < n; ++k) y[k] = values[k].v;
+    return y;
+  }
   std::vector<ComplexBlock<Rounded<T>>> columns;
   for (int p = 0; p < d; ++p) {
     columns.push_back(first_stage<T>(
         2 * m, [&](int t) { return Rounded<T>{x[t >= 0 ? 2 * d * t + p : -2 * d * t - 1 - p]}; }));
   }
-  std::vector<T> y(n);
   for (int q = 0; q < m; ++q) {
     ComplexBlock<Rounded<T>> z;
     for (int p = 0; p < d; ++p) {
       const T count = static_cast<T>(2 * (2 * p + 1) * (2 * q + 1));
       z.push_back(rotate(table_pair(count / static_cast<T>(8 * n)), columns[p][q]));
     }
-    const auto o =
-        dct4::second_stage(z, std::span<const int>(second_radices(d)), LastSign::kTurned);
+    const auto o = dct4::second_stage(z, radices(dct4::Kind::kSecondStage, d), LastSign::kTurned);
     for (int l = 0; l < d; ++l) {
       y[2 * m * l + q] = o[l == 0 ? 0 : 2 * l - 1].v;
       y[2 * m * (l + 1) - 1 - q] = o[l == d - 1 ? 2 * d - 1 : 2 * l + 2].v;
@@ -139,19 +133,8 @@ std::vector<T> transform(const std::vector<T>& x) {
   return y;
 }
 
-// The definition.
-template <class T>
-std::vector<long double> direct_sum(const std::vector<T>& x) {
-  const long n = static_cast<long>(x.size());
-  std::vector<long double> cosine(8 * n), y(n);
-  for (long i = 0; i < 8 * n; ++i) cosine[i] = cosl(M_PIl * i / (4 * n));
-  for (long k = 0; k < n; ++k) {
-    for (long j = 0; j < n; ++j) y[k] += x[j] * cosine[(2 * j + 1) * (2 * k + 1) % (8 * n)];
-  }
-  return y;
-}
-
-// The same by a complex DFT of n / 2 points, of even indices and, backwards, odd ones.
+// The transform in long double, by a complex DFT of n / 2 points: of the even samples and,
+// backwards, the odd ones.
 template <class T>
 std::vector<long double> fast_sum(const std::vector<T>& x) {
   using Value = std::complex<long double>;

@@ -83,11 +83,15 @@ class Dct4 : public testing::Test {
 using Types = testing::Types<Single, Double>;
 TYPED_TEST_SUITE(Dct4, Types);
 
-TEST(Dct4Model, FastSumIsTheDirectSum) {
+TEST(Dct4Model, IsTheDefinition) {
   for (int n : {2, 4, 32, 256}) {
     const auto x = Dct4<Double>::random_samples(n);
-    const auto direct = dct4_model::direct_sum(x), fast = dct4_model::fast_sum(x);
-    for (int k = 0; k < n; ++k) EXPECT_LT(fabsl(direct[k] - fast[k]), 1e-16L) << n;
+    const auto y = dct4_model::fast_sum(x);
+    for (int k = 0; k < n; ++k) {
+      long double sum = 0;
+      for (int j = 0; j < n; ++j) sum += x[j] * cosl(M_PIl / n * (j + 0.5L) * (k + 0.5L));
+      EXPECT_LT(fabsl(sum - y[k]), 1e-16L * n) << n;
+    }
   }
 }
 
@@ -102,7 +106,7 @@ TYPED_TEST(Dct4, IsAccurate) {
     for (int seed = 0; seed < inputs; ++seed) {
       const auto x = this->random_samples(n, seed);
       const auto y = plan.run(x);
-      const auto wanted = n <= 64 ? dct4_model::direct_sum(x) : dct4_model::fast_sum(x);
+      const auto wanted = dct4_model::fast_sum(x);
       for (int k = 0; k < n; ++k) {
         error += (y[k] - wanted[k]) * (y[k] - wanted[k]);
         norm += wanted[k] * wanted[k];
