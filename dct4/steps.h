@@ -22,15 +22,13 @@
 namespace zulgen {
 
 struct Step {  // what every step begins with
-  void (*__del__)(void* object);
-  int size;
+  ObjectHeader header;
   int (*plan)(void* object);
   Arena* arena;
 };
 
 struct Function {  // what every function object begins with
-  void (*__del__)(void* object);
-  int size;
+  ObjectHeader header;
   Sample (*at)(const void* object, int u, int v, int w);
   Arena* arena;
 };
