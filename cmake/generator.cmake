@@ -5,7 +5,8 @@ file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/networks/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_real/*.cpp
-  ${PROJECT_SOURCE_DIR}/hartley/*.cpp)
+  ${PROJECT_SOURCE_DIR}/hartley/*.cpp
+  ${PROJECT_SOURCE_DIR}/dct4/kernels/*.cpp)
 list(APPEND ZULGEN_CODEGEN_SOURCES
   ${PROJECT_SOURCE_DIR}/wht/kernels.cpp
   ${PROJECT_SOURCE_DIR}/wht/graphs.cpp
@@ -30,7 +31,10 @@ set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12 dft_real_32f=16 dft_re
 set(ZULGEN_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
 file(MAKE_DIRECTORY ${ZULGEN_GENERATED_DIR})
 set(ZULGEN_EXPORTS ${ZULGEN_GENERATED_DIR}/zulgens8.map)
-set(ZULGEN_BODY_HEADERS ${ZULGEN_GENERATED_DIR}/wht_bodies.h)
+set(ZULGEN_BODY_HEADERS
+  ${ZULGEN_GENERATED_DIR}/wht_bodies.h
+  ${ZULGEN_GENERATED_DIR}/dct4_32f.h
+  ${ZULGEN_GENERATED_DIR}/dct4_64f.h)
 set(ZULGEN_KERNEL_SOURCES)
 set(arguments --out ${ZULGEN_GENERATED_DIR})
 foreach(shards IN LISTS ZULGEN_SHARDS)

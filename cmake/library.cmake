@@ -1,7 +1,8 @@
 # libzulgens8.so.6.1 and its companion libzulcore.so.6.1.
 
 add_library(zulgen_kernels OBJECT
-  ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_BODY_HEADERS} ${ZULGEN_EXPORTS} wht/long_orders.cpp)
+  ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_BODY_HEADERS} ${ZULGEN_EXPORTS}
+  wht/long_orders.cpp dct4/dct4_32f.cpp dct4/dct4_64f.cpp)
 target_include_directories(zulgen_kernels PRIVATE ${PROJECT_SOURCE_DIR} ${ZULGEN_GENERATED_DIR})
 target_link_libraries(zulgen_kernels PRIVATE zulgen_kernel_code)
 set_target_properties(zulgen_kernels PROPERTIES
@@ -9,7 +10,7 @@ set_target_properties(zulgen_kernels PROPERTIES
 
 zulgen_shared_library(TARGET zulgens8 NAME zulgens8 EXPORTS ${ZULGEN_EXPORTS}
   SOURCES frame/version.cpp wht/buffer_size.cpp $<TARGET_OBJECTS:zulgen_kernels>
-  LIBRARIES zulcore)
+  LIBRARIES zulcore m)
 target_include_directories(zulgens8 PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(zulgens8 PRIVATE zulgen_library_code)
 

@@ -13,6 +13,8 @@
 // rely on the alignment of anything, the stack included.
 #define ZULGEN_TWIN \
   extern "C" __attribute__((visibility("hidden"), noinline, force_align_arg_pointer))
+// Generated arithmetic that becomes part of the function that calls it.
+#define ZULGEN_BODY inline __attribute__((always_inline))
 
 namespace zulgen {
 

@@ -17,6 +17,7 @@ VectorOperations count_vector_operations(const Graph& graph) {
         ++counts.additions;
         break;
       case Op::kMul:
+      case Op::kProduct:
       case Op::kScale:
         ++counts.multiplications;
         break;

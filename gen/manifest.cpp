@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dct4/kernels/kernels.h"
 #include "dft_complex/dft_complex.h"
 #include "dft_real/dft_real.h"
 #include "hartley/hartley.h"
@@ -18,12 +19,19 @@ std::vector<Kernel> all_kernels() {
   return result;
 }
 
-std::map<std::string, std::string> body_headers() { return {{"wht_bodies.h", wht::body_header()}}; }
+std::vector<Body> all_bodies() { return dct4::bodies(); }
+
+std::map<std::string, std::string> body_headers() {
+  std::map<std::string, std::string> headers = headers_of_bodies(all_bodies());
+  headers["wht_bodies.h"] = wht::body_header();
+  return headers;
+}
 
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion", "zulgWHTGetBufferSize_32f",
                                     "zulgWHTGetBufferSize_64f"};
   for (const Kernel& kernel : all_kernels()) names.push_back(kernel.name);
+  for (const std::string& name : dct4::entries()) names.push_back(name);
   std::sort(names.begin(), names.end());
   return names;
 }

@@ -5,13 +5,17 @@
 #include <string>
 #include <vector>
 
+#include "gen/body.h"
 #include "gen/kernel.h"
 
 namespace gen {
 
 std::vector<Kernel> all_kernels();
 
-// Generated bodies that code written by hand includes, by the name of their header.
+// The arithmetic of what is written by hand in terms of accessors.
+std::vector<Body> all_bodies();
+
+// The headers of generated bodies that code written by hand includes, by name.
 std::map<std::string, std::string> body_headers();
 
 // The kernels and the functions written by hand, sorted.

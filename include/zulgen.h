@@ -9,6 +9,7 @@
  *   zulgen/dft_real_inverse.h  and back
  *   zulgen/hartley.h           Hartley transform
  *   zulgen/wht.h               Walsh-Hadamard transform
+ *   zulgen/dct4.h              DCT-IV of a length chosen at run time
  *
  * Every function is safe to call from any number of threads at once, as long as no two calls write
  * to the same array. None prints, exits or keeps anything after it returns. None allocates, but for
@@ -19,6 +20,7 @@
 
 #include "zulgen/types.h"
 
+#include "zulgen/dct4.h"
 #include "zulgen/dft_complex.h"
 #include "zulgen/dft_real_forward.h"
 #include "zulgen/dft_real_inverse.h"
