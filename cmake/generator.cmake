@@ -36,10 +36,12 @@ set(ZULGEN_BODY_HEADERS
   ${ZULGEN_GENERATED_DIR}/dct4_32f.h
   ${ZULGEN_GENERATED_DIR}/dct4_64f.h)
 set(ZULGEN_KERNEL_SOURCES)
+set(ZULGEN_DISPATCH_SOURCES)
 set(arguments --out ${ZULGEN_GENERATED_DIR})
 foreach(shards IN LISTS ZULGEN_SHARDS)
   list(APPEND arguments --shards ${shards})
   string(REGEX MATCH "^(.*)=(.*)$" match ${shards})
+  list(APPEND ZULGEN_DISPATCH_SOURCES ${ZULGEN_GENERATED_DIR}/${CMAKE_MATCH_1}.dispatch.cpp)
   math(EXPR last "${CMAKE_MATCH_2} - 1")
   foreach(shard RANGE ${last})
     list(APPEND ZULGEN_KERNEL_SOURCES ${ZULGEN_GENERATED_DIR}/${CMAKE_MATCH_1}.${shard}.cpp)
@@ -48,7 +50,8 @@ endforeach()
 
 # Only files that change are written, so that a change in one family compiles that family alone.
 add_custom_command(
-  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_BODY_HEADERS} ${ZULGEN_EXPORTS}
+  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_DISPATCH_SOURCES} ${ZULGEN_BODY_HEADERS}
+    ${ZULGEN_EXPORTS}
   COMMAND zulgen-generate ${arguments}
   DEPENDS zulgen-generate
   COMMENT "Generating the kernels"

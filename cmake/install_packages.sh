@@ -1,7 +1,7 @@
 # Installs what the build needs and the machine lacks, on Debian 12: as root, or by sudo.
-# Sourced by demo and check.
+# Sourced by demo and check, after a list of `more_packages`.
 
-packages="cmake ninja-build g++ g++-multilib googletest libstb-dev graphviz"
+packages="cmake ninja-build g++ g++-multilib googletest libstb-dev graphviz ${more_packages-}"
 
 missing=
 for package in $packages; do

@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "gen/dispatch.h"
 #include "gen/emit.h"
 #include "gen/manifest.h"
 
@@ -24,7 +25,8 @@ void write_library(const std::string& directory, const Shards& shards) {
     sources[family].resize(count);
   }
   std::map<std::string, std::size_t> next_shard, shard_of;
-  for (const Kernel& kernel : all_kernels()) {
+  const std::vector<Kernel> kernels = all_kernels();
+  for (const Kernel& kernel : kernels) {
     if (!kernel.is_generated) continue;
     const auto family = sources.find(kernel.family);
     if (family == sources.end()) throw std::runtime_error("no shards for " + kernel.family);
@@ -36,7 +38,14 @@ void write_library(const std::string& directory, const Shards& shards) {
     shard_of[kernel.name] = shard;
     family->second[shard] += "\n" + emit_kernel(kernel);
   }
+  std::map<std::string, std::string> entries_of;
+  for (const DispatchEntry& entry : dispatch_entries(kernels)) {
+    entries_of[entry.family] += "\n" + emit_dispatch(entry);
+  }
   for (const auto& [family, texts] : sources) {
+    write_if_changed(directory + "/" + family + ".dispatch.cpp",
+                     "// Generated from the list of " + family +
+                         ".\n#include \"frame/dispatch.h\"\n" + entries_of[family]);
     for (std::size_t shard = 0; shard < texts.size(); ++shard) {
       write_if_changed(
           directory + "/" + family + "." + std::to_string(shard) + ".cpp",

@@ -13,9 +13,10 @@ namespace gen {
 // side by side. Every family of the manifest has to be named.
 using Shards = std::map<std::string, int>;
 
-// Into `directory`: <family>.<shard>.cpp for every shard, the headers of manifest.h, and
-// zulgens8.map, the linker's version script, which exports what the manifest lists and nothing
-// else. Throws std::runtime_error.
+// Into `directory`: <family>.<shard>.cpp for every shard, <family>.dispatch.cpp with the entries
+// that pick one of the family's kernels by its length, the headers of manifest.h, and zulgens8.map,
+// the linker's version script, which exports what the manifest lists and nothing else. Throws
+// std::runtime_error.
 void write_library(const std::string& directory, const Shards& shards);
 
 // One source file that holds the kernel in all these orders, as functions NAME_0, NAME_1, ...

@@ -5,6 +5,7 @@
 #include "dct4/kernels/kernels.h"
 #include "dft_complex/dft_complex.h"
 #include "dft_real/dft_real.h"
+#include "gen/dispatch.h"
 #include "hartley/hartley.h"
 #include "wht/wht.h"
 
@@ -30,7 +31,9 @@ std::map<std::string, std::string> body_headers() {
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion", "zulgWHTGetBufferSize_32f",
                                     "zulgWHTGetBufferSize_64f"};
-  for (const Kernel& kernel : all_kernels()) names.push_back(kernel.name);
+  const std::vector<Kernel> kernels = all_kernels();
+  for (const Kernel& kernel : kernels) names.push_back(kernel.name);
+  for (const DispatchEntry& entry : dispatch_entries(kernels)) names.push_back(entry.name);
   for (const std::string& name : dct4::entries()) names.push_back(name);
   std::sort(names.begin(), names.end());
   return names;

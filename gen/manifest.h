@@ -18,7 +18,7 @@ std::vector<Body> all_bodies();
 // The headers of generated bodies that code written by hand includes, by name.
 std::map<std::string, std::string> body_headers();
 
-// The kernels and the functions written by hand, sorted.
+// The kernels, their dispatch entries and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();
 
 }  // namespace gen

@@ -10,6 +10,7 @@
  *   zulgen/hartley.h           Hartley transform
  *   zulgen/wht.h               Walsh-Hadamard transform
  *   zulgen/dct4.h              DCT-IV of a length chosen at run time
+ *   zulgen/dispatch.h          the kernels, of a length known at run time only
  *
  * Every function is safe to call from any number of threads at once, as long as no two calls write
  * to the same array. None prints, exits or keeps anything after it returns. None allocates, but for
@@ -24,6 +25,7 @@
 #include "zulgen/dft_complex.h"
 #include "zulgen/dft_real_forward.h"
 #include "zulgen/dft_real_inverse.h"
+#include "zulgen/dispatch.h"
 #include "zulgen/hartley.h"
 #include "zulgen/version.h"
 #include "zulgen/wht.h"

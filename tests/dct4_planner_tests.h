@@ -59,7 +59,8 @@ TEST(Arena, IsACounter) {
   EXPECT_EQ(zulgAlignSize32Bytes(32), 32);
   EXPECT_EQ(zulgAlignSize32Bytes(33), 64);
   EXPECT_EQ(zulgAlignSize32Bytes(INT32_MAX), INT32_MIN);
-  alignas(32) char memory[512];
+  alignas(32) char room[512];
+  char* const memory = room + 128;
   Arena arena = {memory};
   char* const first = static_cast<char*>(zulgArenaMalloc(&arena, 12));
   EXPECT_EQ(first, memory);
@@ -91,7 +92,8 @@ struct Counted {
 };
 
 TEST(EnvList, HoldsObjectsInOrder) {
-  alignas(32) char memory[512];
+  alignas(32) char room[512];
+  char* const memory = room + 128;
   Arena arena = {memory};
   EnvList list;
   EXPECT_EQ(EnvList___init__(&list, &arena), &list);
