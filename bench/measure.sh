@@ -6,14 +6,18 @@
 #   dct4.csv     the same of the DCT-IV
 #   machine.txt  what they were measured on
 #
-# Usage: bench/measure.sh BUILD_DIR
+# Usage: bench/measure.sh BUILD_DIR [COMMAND...]
+#
+# It measures in pieces of a minute or two. On a machine that is shared, COMMAND is what to run each
+# of them under, such as "flock FILE".
 set -eu
 build=$1
+shift
 measured=$(dirname "$(realpath "$0")")/../docs/measured
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 
-"$build/bin/kernels_test" --gtest_filter='*IsAccurate*' --gtest_output="xml:$work/error.xml" \
+"$@" "$build/bin/kernels_test" --gtest_filter='*IsAccurate*' --gtest_output="xml:$work/error.xml" \
   >/dev/null
 {
   echo kernel,error_in_u
@@ -23,10 +27,17 @@ trap 'rm -r "$work"' EXIT
 } >"$work/error.csv"
 
 # The kernels by whose definition the others of their family are defined.
-"$build/bin/zulgen-bench" --filter CToC,RToCCS,CCSToR,Hartley,WHT --plans 4 \
-  --csv "$work/speed.csv" >/dev/null
+for stem in Fwd_CToC Inv_CToC RToCCS CCSToR Hartley WHT; do
+  # By the first digits of the length: about 20 lengths each.
+  for digits in 1,2 3,4 5,6,7,8,9; do
+    "$@" "$build/bin/zulgen-bench" --plans 4 --csv "$work/piece" \
+      --filter "$(echo "$digits" | sed "s/[0-9]/${stem}_&/g")" >/dev/null
+    [ -s "$work/speed.csv" ] || head -n 1 "$work/piece" >"$work/speed.csv"
+    sed 1d "$work/piece" >>"$work/speed.csv"
+  done
+done
 if [ -x "$build/bin/zulgen-bench-dct4" ]; then
-  "$build/bin/zulgen-bench-dct4" --csv "$work/dct4.csv" >/dev/null
+  "$@" "$build/bin/zulgen-bench-dct4" --csv "$work/dct4.csv" >/dev/null
 fi
 
 cpu() { sed -n "s/^$1[[:space:]]*: //p" /proc/cpuinfo | head -n 1; }

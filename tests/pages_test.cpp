@@ -9,6 +9,7 @@
 
 #include "docs/pages/chart.h"
 #include "docs/pages/decomposition.h"
+#include "docs/pages/layered_layout.h"
 #include "docs/pages/site.h"
 #include "docs/pages/tables.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "docs/pages/markup.h"
+#include "docs/pages/layered_layout.h"
 
 namespace pages {
 namespace {

@@ -7,11 +7,9 @@
 
 #include <vector>
 
-namespace pages {
+#include "docs/pages/markup.h"
 
-struct Size {
-  double width = 0, height = 0;
-};
+namespace pages {
 
 struct Point {
   double x = 0, y = 0;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "docs/pages/decomposition.h"
 #include "docs/pages/markup.h"
 #include "docs/pages/site.h"
@@ -29,10 +31,14 @@ std::string kernel_table(const std::map<Key, Entry>& entries) {
       rows);
 }
 
+// Wider than half of the page.
+constexpr double kWideTree = 540;
+
 std::string tree(const std::string& heading, Transform transform, const Entry& entry) {
-  return "<section><h3>" + heading + "</h3>\n<p class=\"recipe\"><code>" +
-         escaped(entry.kernel.recipe) + "</code></p>\n<div class=\"scroll\">" +
-         tree_picture(decomposition(transform, entry.kernel)) + "</div></section>\n";
+  const Picture picture = tree_picture(decomposition(transform, entry.kernel));
+  return std::string("<section") + (picture.size.width > kWideTree ? " class=\"wide\"" : "") +
+         "><h3>" + heading + "</h3>\n<p class=\"recipe\"><code>" + escaped(entry.kernel.recipe) +
+         "</code></p>\n<div class=\"scroll\">" + picture.svg + "</div></section>\n";
 }
 
 // One tree for kernels that share it.
@@ -71,20 +77,31 @@ std::string crumbs(const Catalogue& catalogue, int length) {
   return text;
 }
 
-std::string flow_figure(const std::string& kernel, int length, const Size& size) {
-  const std::string file = flow_picture_name(length);
+bool has_rader(const Branch& branch) {
+  return branch.note.find("Rader") != std::string::npos ||
+         std::any_of(branch.parts.begin(), branch.parts.end(), has_rader);
+}
+
+std::string flow_figure(const Entry& entry, const Picture& picture) {
+  const std::string& kernel = entry.kernel.name;
+  const std::string file = flow_picture_name(entry.kernel.length);
+  std::string constants;
+  if (entry.counts.multiplications > 0) constants += " cos 1/12 is the cosine of 1/12 of a turn.";
+  if (has_rader(decomposition(Transform::kRealForward, entry.kernel))) {
+    constants += " S13,2 re stands for a constant of Rader’s form of length 13.";
+  }
   return "<h2>Data flow</h2>\n"
          "<p>The real forward transform in double precision, <code>" +
          kernel +
          "</code>, from the samples to the parts of the bins, before scaling. A dashed line is "
-         "subtracted. cos 1/12 is the cosine of 1/12 of a turn; S13,2 re stands for a constant of "
-         "Rader’s form of length 13. <a href=\"" +
-         file +
-         "\">The picture alone</a>, for zooming, tells the value of a constant under the "
+         "subtracted." +
+         constants + " <a href=\"" + file +
+         "\">The picture alone</a> is for zooming, and tells a constant’s value under the "
          "pointer.</p>\n"
          "<figure class=\"flow\"><a href=\"" +
-         file + "\"><img src=\"" + file + "\" width=\"" + coordinate(size.width) + "\" height=\"" +
-         coordinate(size.height) + "\" alt=\"Data flow of " + kernel + "\"/></a></figure>\n";
+         file + "\"><img src=\"" + file + "\" width=\"" + coordinate(picture.size.width) +
+         "\" height=\"" + coordinate(picture.size.height) + "\" alt=\"Data flow of " + kernel +
+         "\"/></a></figure>\n";
 }
 
 }  // namespace
@@ -118,7 +135,7 @@ std::string length_page(const Catalogue& catalogue, int length, const Picture& f
           "these touches the input first. An inverse real kernel is the mirror image of the "
           "network that its tree describes. A double-precision complex kernel runs its tree on "
           "real and imaginary parts side by side.</p>\n" +
-          trees(entries) + flow_figure(drawn.kernel.name, length, flow.size));
+          trees(entries) + flow_figure(drawn, flow));
 }
 
 }  // namespace pages

@@ -6,6 +6,15 @@
 
 namespace pages {
 
+struct Size {
+  double width = 0, height = 0;
+};
+
+struct Picture {
+  std::string svg;
+  Size size;
+};
+
 // Text with the characters that markup gives a meaning written as entities.
 std::string escaped(std::string_view text);
 

@@ -21,7 +21,7 @@ class TreeDrawer {
  public:
   explicit TreeDrawer(const Branch& root) { place(root, 0, -1); }
 
-  std::string draw() const {
+  Picture draw() const {
     std::map<int, double> left, width;
     for (const Placed& placed : placed_) {
       width[placed.depth] = std::max(width[placed.depth], width_of(*placed.branch));
@@ -40,10 +40,10 @@ class TreeDrawer {
       }
       boxes += box(*placed.branch, x, placed.y);
     }
-    const std::string size =
-        coordinate(right - kGap + 1) + "\" height=\"" + coordinate(rows_ * kRow);
-    return "<svg class=\"tree\" role=\"img\" width=\"" + size + "\"><path d=\"" + lines + "\"/>" +
-           boxes + "</svg>\n";
+    const Size size = {right - kGap + 1, rows_ * kRow};
+    return {"<svg class=\"tree\" role=\"img\" width=\"" + coordinate(size.width) + "\" height=\"" +
+                coordinate(size.height) + "\"><path d=\"" + lines + "\"/>" + boxes + "</svg>\n",
+            size};
   }
 
  private:
@@ -101,6 +101,6 @@ class TreeDrawer {
 
 }  // namespace
 
-std::string tree_picture(const Branch& root) { return TreeDrawer(root).draw(); }
+Picture tree_picture(const Branch& root) { return TreeDrawer(root).draw(); }
 
 }  // namespace pages
