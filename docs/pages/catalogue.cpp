@@ -53,6 +53,12 @@ std::string title(Transform transform) {
   }
 }
 
+std::string short_title(Transform transform) {
+  std::string text = title(transform);
+  const std::size_t dft = text.find(" DFT");
+  return dft == std::string::npos ? text : text.erase(dft, 4);
+}
+
 std::string title(gen::Precision precision) {
   return precision == gen::Precision::kSingle ? "single" : "double";
 }

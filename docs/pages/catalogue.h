@@ -23,6 +23,8 @@ inline constexpr gen::Precision kPrecisions[] = {gen::Precision::kSingle, gen::P
 
 // "Real DFT, inverse".
 std::string title(Transform transform);
+// "Real, inverse".
+std::string short_title(Transform transform);
 // "single", "double".
 std::string title(gen::Precision precision);
 

@@ -34,7 +34,8 @@ std::string chart(const Catalogue& catalogue, Chart chart, Precision precision,
                   const Figure& figure) {
   for (const Transform transform : {Transform::kComplexForward, Transform::kRealForward,
                                     Transform::kRealInverse, Transform::kHartley}) {
-    chart.series.push_back({title(transform), values(catalogue, {transform, precision}, figure)});
+    chart.series.push_back(
+        {short_title(transform), values(catalogue, {transform, precision}, figure)});
   }
   chart.title += ", " + title(precision) + " precision";
   return chart_picture(chart);
@@ -91,8 +92,8 @@ std::string length_table(const Catalogue& catalogue) {
   std::string head = "<tr><th rowspan=\"2\" class=\"n\">N</th><th rowspan=\"2\">Factors</th>";
   std::string second = "<tr>";
   for (const Key& group : groups) {
-    head += "<th colspan=\"3\" class=\"group\">" + title(group.first) + ", " + title(group.second) +
-            "</th>";
+    head += "<th colspan=\"3\" class=\"group\">" + short_title(group.first) + ", " +
+            title(group.second) + "</th>";
     second +=
         "<th class=\"n first\">Operations</th><th class=\"n\">Cycles</th>"
         "<th class=\"n\">FFTW / ours</th>";
