@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <limits>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "bench/arrays.h"
@@ -18,8 +19,8 @@
 namespace {
 
 constexpr const char* kUsage =
-    "usage: zulgen-bench [--filter TEXT] [--plans N] [--rounds N] [--csv FILE]\n"
-    "  --filter TEXT  kernels whose name holds TEXT (default: forward ones)\n"
+    "usage: zulgen-bench [--filter TEXT[,TEXT...]] [--plans N] [--rounds N] [--csv FILE]\n"
+    "  --filter TEXT  kernels whose name holds one of the texts (default: forward ones)\n"
     "  --plans N      FFTW plans to take the best of (default 4); 0 times our kernels alone\n"
     "  --rounds N     samples a contender (default 300)\n"
     "  --csv FILE     the figures as comma-separated values, too\n";
@@ -30,6 +31,15 @@ struct Options {
   int rounds = 300;
   std::string csv;
 };
+
+// Whether the name holds one of the texts between the filter's commas.
+bool passes(const std::string& name, const std::string& filter) {
+  std::istringstream texts(filter);
+  for (std::string text; std::getline(texts, text, ',');) {
+    if (name.find(text) != std::string::npos) return true;
+  }
+  return false;
+}
 
 // The least of some figures; NaN if there is none.
 double best(const std::vector<double>& cycles, std::size_t first, std::size_t last) {
@@ -91,7 +101,7 @@ int run(const Options& options) {
   int count = 0;
   std::string lowest_name;
   for (const gen::Kernel& kernel : gen::all_kernels()) {
-    if (kernel.name.find(options.filter) == std::string::npos) continue;
+    if (!passes(kernel.name, options.filter)) continue;
     const Figures f = measure(clock, kernel, options, sse2.get(), installed.get());
     const double ratio = f.sse2 / f.ours;
     std::printf("%-28s %9.1f %9.1f %10.1f %7.3f %14.1f %7.3f\n", kernel.name.c_str(), f.ours,

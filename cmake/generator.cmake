@@ -13,11 +13,14 @@ list(APPEND ZULGEN_CODEGEN_SOURCES
   ${PROJECT_SOURCE_DIR}/wht/bodies.cpp)
 list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
 
-add_executable(zulgen-generate gen/main.cpp ${ZULGEN_CODEGEN_SOURCES})
-target_include_directories(zulgen-generate PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(zulgen-generate PRIVATE zulgen_program)
+add_library(codegen STATIC ${ZULGEN_CODEGEN_SOURCES})
+target_include_directories(codegen PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(codegen PUBLIC zulgen_program)
 # Its assertions are cheap, and stay.
-target_compile_options(zulgen-generate PRIVATE -UNDEBUG)
+target_compile_options(codegen PRIVATE -UNDEBUG)
+
+add_executable(zulgen-generate gen/main.cpp)
+target_link_libraries(zulgen-generate PRIVATE codegen)
 
 # The same code for 32-bit programs that ask what the library holds: the tests, the benchmark.
 add_library(codegen32 STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})
