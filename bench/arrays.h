@@ -12,8 +12,9 @@ namespace bench {
 
 // Arrays large enough for any kernel, on a cache line of their own.
 struct Arrays {
-  alignas(64) char source[2048];
-  alignas(64) char destination[2048];
+  alignas(64) char source[65536];
+  alignas(64) char destination[65536];
+  alignas(64) char work[73728];
 
   void clear() { std::memset(source, 0, sizeof source); }
 
@@ -30,13 +31,14 @@ struct Arrays {
   }
 };
 
-using KernelFunction = zulgResult (*)(const void*, void*, zulgScaleFlag);
+// Kernels without a work buffer don't look at the last argument.
+using KernelFunction = zulgResult (*)(const void*, void*, zulgScaleFlag, void*);
 
 // Calls of a kernel that dlsym() found.
 inline Contender calls_of(void* function, Arrays& arrays) {
   return [kernel = reinterpret_cast<KernelFunction>(function), &arrays](int calls) {
     for (int call = 0; call < calls; ++call) {
-      kernel(arrays.source, arrays.destination, ZULG_SCALE_NONE);
+      kernel(arrays.source, arrays.destination, ZULG_SCALE_NONE, arrays.work);
     }
   };
 }

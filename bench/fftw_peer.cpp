@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <fftw3.h>
 
+#include <bit>
 #include <string>
 
 // The static libraries ask these whether they may use AVX.
@@ -20,6 +21,7 @@ struct Api {
   Plan (*r2c)(int, Real*, Complex*, unsigned);
   Plan (*c2r)(int, Complex*, Real*, unsigned);
   Plan (*r2r)(int, Real*, Real*, fftw_r2r_kind, unsigned);
+  Plan (*r2r_of_rank)(int, const int*, Real*, Real*, const fftw_r2r_kind*, unsigned);
   void (*execute)(Plan);
   void (*forget_wisdom)();
 
@@ -34,6 +36,18 @@ struct Api {
     const auto plan_r2r = [&](fftw_r2r_kind kind, unsigned flags) {
       return r2r(n, real(source), real(destination), kind, FFTW_PATIENT | flags);
     };
+    if (is("WHT")) {
+      // 2 by 2 by ... by 2 points, by either of the two names of that butterfly.
+      const int rank = std::countr_zero(static_cast<unsigned>(n));
+      const std::vector<int> sizes(rank, 2);
+      std::vector<Plan> result;
+      for (const fftw_r2r_kind kind : {FFTW_DHT, FFTW_R2HC}) {
+        const std::vector<fftw_r2r_kind> kinds(rank, kind);
+        result.push_back(r2r_of_rank(rank, sizes.data(), real(source), real(destination),
+                                     kinds.data(), FFTW_PATIENT));
+      }
+      return result;
+    }
     if (is("Hartley")) return {plan_r2r(FFTW_DHT, 0)};
     if (is("_RTo")) {
       return {r2c(n, real(source), complex(destination), FFTW_PATIENT), plan_r2r(FFTW_R2HC, 0)};
@@ -105,6 +119,7 @@ bool load(const char* file, const std::string& prefix, Api& api) {
   find("plan_dft_r2c_1d", api.r2c);
   find("plan_dft_c2r_1d", api.c2r);
   find("plan_r2r_1d", api.r2r);
+  find("plan_r2r", api.r2r_of_rank);
   find("execute", api.execute);
   find("forget_wisdom", api.forget_wisdom);
   return true;
@@ -113,10 +128,12 @@ bool load(const char* file, const std::string& prefix, Api& api) {
 }  // namespace
 
 std::unique_ptr<FftwPeer> FftwPeer::sse2() {
-  const Single single = {fftwf_plan_dft_1d, fftwf_plan_dft_r2c_1d, fftwf_plan_dft_c2r_1d,
-                         fftwf_plan_r2r_1d, fftwf_execute,         fftwf_forget_wisdom};
-  const Double full = {fftw_plan_dft_1d, fftw_plan_dft_r2c_1d, fftw_plan_dft_c2r_1d,
-                       fftw_plan_r2r_1d, fftw_execute,         fftw_forget_wisdom};
+  const Single single = {fftwf_plan_dft_1d,  fftwf_plan_dft_r2c_1d, fftwf_plan_dft_c2r_1d,
+                         fftwf_plan_r2r_1d,  fftwf_plan_r2r,        fftwf_execute,
+                         fftwf_forget_wisdom};
+  const Double full = {fftw_plan_dft_1d,  fftw_plan_dft_r2c_1d, fftw_plan_dft_c2r_1d,
+                       fftw_plan_r2r_1d,  fftw_plan_r2r,        fftw_execute,
+                       fftw_forget_wisdom};
   return std::make_unique<Peer>(single, full);
 }
 

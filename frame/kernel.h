@@ -4,6 +4,8 @@
 
 #include <stdint.h>
 
+#include <type_traits>
+
 #include "zulgen.h"
 
 #define ZULGEN_EXPORT extern "C" __attribute__((visibility("default")))
@@ -11,6 +13,8 @@
 // rely on the alignment of anything, the stack included.
 #define ZULGEN_TWIN \
   extern "C" __attribute__((visibility("hidden"), noinline, force_align_arg_pointer))
+// Generated arithmetic that becomes part of the function that calls it.
+#define ZULGEN_BODY inline __attribute__((always_inline))
 
 namespace zulgen {
 
@@ -53,6 +57,29 @@ inline zulgResult check_arguments(const void* source, const void* destination, z
   const char* factor = reinterpret_cast<const char*>(&factors.by_flag[flag]);
   __builtin_memcpy(&bits, factor + sizeof(T) - sizeof bits, sizeof bits);
   return __builtin_expect(bits == 0, 0) ? ZULG_ERR_FLAG : ZULG_OK;
+}
+
+// The same for a transform that is its own inverse, whose factor is 1 / N under either of the flags
+// that have one. `factor` becomes the one that the flag selects. The choice is between integers,
+// which stand in the instructions: no table has to be found first.
+template <class T>
+inline zulgResult check_arguments(const void* source, const void* destination, zulgScaleFlag flag,
+                                  T by_n, T by_sqrt_n, T& factor) {
+  if (__builtin_expect(source == nullptr || destination == nullptr, 0)) return ZULG_ERR_NULL_PTR;
+  using Bits = std::conditional_t<sizeof(T) == sizeof(uint32_t), uint32_t, uint64_t>;
+  const auto bits_of = [](T value) { return __builtin_bit_cast(Bits, value); };
+  Bits bits = bits_of(1);
+  if (__builtin_expect(flag != ZULG_SCALE_NONE, 0)) {
+    if (flag == ZULG_SCALE_BY_SQRT_N) {
+      bits = bits_of(by_sqrt_n);
+    } else if (flag == ZULG_SCALE_FWD_BY_N || flag == ZULG_SCALE_INV_BY_N) {
+      bits = bits_of(by_n);
+    } else {
+      return ZULG_ERR_FLAG;
+    }
+  }
+  factor = __builtin_bit_cast(T, bits);
+  return ZULG_OK;
 }
 
 }  // namespace zulgen

@@ -40,6 +40,18 @@ inline F4 load_twice(const float* p) {
   typedef double Half __attribute__((may_alias, aligned(4)));
   return _mm_castpd_ps(_mm_set1_pd(*reinterpret_cast<const Half*>(p)));
 }
+// Two halves from two places. The duplicating load takes no shuffle port and the merge may run on
+// any of three, where the movhps that compilers make of this takes the one that all shuffles want.
+inline F4 load_halves(const float* low, const float* high) {
+  F4 both = load_twice(high);
+  asm("movsd %1, %0" : "+x"(both) : "x"(load_low(low)));
+  return both;
+}
+inline D2 load_halves(const double* low, const double* high) {
+  D2 both = _mm_loaddup_pd(high);
+  asm("movsd %1, %0" : "+x"(both) : "x"(_mm_load_sd(low)));
+  return both;
+}
 inline void store_low(float* p, F4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
 inline void store_high(float* p, F4 v) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), v); }
 
@@ -58,7 +70,13 @@ F4 shuffle(F4 x, F4 y) {
 
 template <int a, int b>
 D2 shuffle(D2 x, D2 y) {
-  return _mm_shuffle_pd(x, y, b << 1 | a);
+  if constexpr (a == 0 && b == 0) {
+    return _mm_castsi128_pd(_mm_unpacklo_epi64(_mm_castpd_si128(x), _mm_castpd_si128(y)));
+  } else if constexpr (a == 1 && b == 1) {
+    return _mm_castsi128_pd(_mm_unpackhi_epi64(_mm_castpd_si128(x), _mm_castpd_si128(y)));
+  } else {
+    return _mm_shuffle_pd(x, y, b << 1 | a);
+  }
 }
 
 // (x0, y0, x1, y1) and (x2, y2, x3, y3). The integer form runs on more ports than unpcklps.

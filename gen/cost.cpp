@@ -17,6 +17,7 @@ VectorOperations count_vector_operations(const Graph& graph) {
         ++counts.additions;
         break;
       case Op::kMul:
+      case Op::kProduct:
       case Op::kScale:
         ++counts.multiplications;
         break;
@@ -33,10 +34,24 @@ VectorOperations count_vector_operations(const Graph& graph) {
   return counts;
 }
 
+namespace {
+
+int on_two_ports(const VectorOperations& operations) {
+  return operations.additions + operations.moves;
+}
+
+int on_three_ports(const VectorOperations& operations) {
+  return on_two_ports(operations) + operations.multiplications + operations.sign_flips;
+}
+
+}  // namespace
+
+double port_bound(const VectorOperations& operations) {
+  return std::max(on_two_ports(operations) / 2.0, on_three_ports(operations) / 3.0);
+}
+
 double port_cost(const VectorOperations& operations) {
-  const int two_ports = operations.additions + operations.moves;
-  const int all = two_ports + operations.multiplications + operations.sign_flips;
-  return std::max(two_ports / 2.0, all / 3.0) + all * 0.03;
+  return port_bound(operations) + on_three_ports(operations) * 0.03;
 }
 
 }  // namespace gen

@@ -13,8 +13,11 @@ struct VectorOperations {
 // Of a graph whose lane moves are single instructions. Loads and stores are left out.
 VectorOperations count_vector_operations(const Graph& graph);
 
-// The least number of cycles that these operations keep the ports busy, in sixths; between graphs
-// with equal bounds, the one with fewer operations is cheaper by less than one.
+// The least number of cycles that these operations keep the ports busy.
+double port_bound(const VectorOperations& operations);
+
+// For a choice between graphs: of those with equal bounds, the one with fewer operations is
+// cheaper.
 double port_cost(const VectorOperations& operations);
 
 }  // namespace gen

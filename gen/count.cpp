@@ -38,6 +38,8 @@ class ScalarExpansion {
     switch (node.op) {
       case Op::kInput:
         return unique({static_cast<int>(node.op), node.element}, nullptr);
+      case Op::kFetch:
+        return unique({static_cast<int>(node.op), node.array, node.element, lane}, nullptr);
       case Op::kZero:
         return {};
       case Op::kLanes:
@@ -52,6 +54,8 @@ class ScalarExpansion {
         return sum(operand(node.a), -operand(node.b));
       case Op::kMul:
         return product(node.factors[lane], operand(node.a));
+      case Op::kProduct:
+        return product(operand(node.a), operand(node.b));
       case Op::kScale:
       case Op::kWiden:
       case Op::kRound: {
@@ -81,6 +85,14 @@ class ScalarExpansion {
     if (number.value() == -1) return -a;
     Scalar result = unique({static_cast<int>(Op::kMul), factor, a.id}, &counts_.multiplications);
     result.negative = a.negative;
+    return result;
+  }
+
+  Scalar product(Scalar a, Scalar b) {
+    if (a.id == 0 || b.id == 0) return {};
+    if (b < a) std::swap(a, b);
+    Scalar result = unique({static_cast<int>(Op::kProduct), a.id, b.id}, &counts_.multiplications);
+    result.negative = a.negative != b.negative;
     return result;
   }
 
@@ -118,6 +130,8 @@ bool is_zero(const Graph& graph, Lane lane) {
     case Op::kAdd:
     case Op::kSub:
       return is_zero(graph, {node.a, lane.index}) && is_zero(graph, {node.b, lane.index});
+    case Op::kProduct:
+      return is_zero(graph, {node.a, lane.index}) || is_zero(graph, {node.b, lane.index});
     default:
       return false;
   }
@@ -140,6 +154,7 @@ Counts count_carried_operations(const Graph& graph) {
       continue;
     }
     counts.additions += node.op == Op::kAdd || node.op == Op::kSub;
+    counts.multiplications += node.op == Op::kProduct;
     counts.multiplications += node.op == Op::kMul && !(graph.factor(node, lane.index) == Number(1));
     for (NodeId operand : graph.operands(lane.node)) live.insert({operand, lane.index});
   }

@@ -7,7 +7,7 @@ namespace gen {
 
 struct Counts {
   int additions = 0;        // and subtractions
-  int multiplications = 0;  // by constants; the scale factor is left out
+  int multiplications = 0;  // the scale factor is left out
   friend bool operator==(const Counts&, const Counts&) = default;
 };
 

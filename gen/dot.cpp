@@ -75,6 +75,8 @@ class DotWriter {
     switch (node.op) {
       case Op::kInput:
         return elements("x", {node.element});
+      case Op::kFetch:
+        return "array " + std::to_string(node.array) + ": " + std::to_string(node.element);
       case Op::kZero:
         return "0";
       case Op::kLanes:
@@ -87,6 +89,8 @@ class DotWriter {
         return "+";
       case Op::kSub:
         return "-";
+      case Op::kProduct:
+        return "*";
       case Op::kMul:
         return "* " + factors(node);
       case Op::kScale:

@@ -80,11 +80,20 @@ std::vector<Store> plan_stores(const Graph& graph) {
   return stores;
 }
 
+std::vector<Store> whole_stores(const Graph& graph) {
+  std::vector<Store> stores;
+  for (const Output& out : graph.outputs()) stores.push_back({"", out.element, 0, out.from.node});
+  return stores;
+}
+
 class BodyWriter {
  public:
   BodyWriter(const Graph& graph, const BodyStyle& style)
       : graph_(graph), style_(style), names_(graph.size()) {
-    for (const Store& store : plan_stores(graph)) stores_[store.node].push_back(store);
+    for (const Store& store : style.stores_by_accessor ? whole_stores(graph) : plan_stores(graph)) {
+      stores_[store.node].push_back(store);
+    }
+    if (style.stores_by_accessor) return;
     const std::vector<bool> live = graph.live_nodes();
     for (NodeId id = 0; id < graph.size(); ++id) {
       if (!live[id] || !is_load(graph, id) || graph[id].op == Op::kZero) continue;
@@ -127,21 +136,32 @@ class BodyWriter {
 
   // The elements of the source that a load brings in.
   std::vector<int> elements(NodeId id) const {
-    if (graph_[id].op == Op::kInput) return {graph_[id].element};
+    if (graph_[id].op == Op::kInput || graph_[id].op == Op::kFetch) return {graph_[id].element};
     const MoveForm form = *single_move(graph_, id);
     const int count = graph_[id].lane_count / (form.move == Move::kLoad ? 1 : 2);
     std::vector<int> result;
     for (int i = 0; i < count; ++i) result.push_back(form.element + i);
+    if (form.move == Move::kLoadHalves) {
+      for (int i = 0; i < count; ++i) result.push_back(form.high_element + i);
+    }
     return result;
   }
 
-  const char* load_suffix(NodeId id) const {
+  // The name of what a load reads from.
+  const std::string& array(const Node& node) const {
+    return node.op == Op::kFetch ? style_.accessors.at(node.array) : style_.source;
+  }
+
+  std::string load_suffix(NodeId id) const {
     if (graph_[id].op != Op::kLanes) return "";
-    switch (single_move(graph_, id)->move) {
+    const MoveForm form = *single_move(graph_, id);
+    switch (form.move) {
       case Move::kLoadLow:
         return "_low";
       case Move::kLoadTwice:
         return "_twice";
+      case Move::kLoadHalves:
+        return "_" + std::to_string(form.high_element);
       default:
         return "";
     }
@@ -153,7 +173,7 @@ class BodyWriter {
     const std::string value = expression(id);
     if (is_load(graph_, id) && node.op != Op::kZero) {
       const std::vector<int> loaded = elements(id);
-      names_[id] = style_.source + std::to_string(loaded[0]) + load_suffix(id);
+      names_[id] = array(node) + std::to_string(loaded[0]) + load_suffix(id);
       for (int element : loaded) --loads_left_[element];
     } else {
       const std::string prefix = node.op == Op::kZero ? "zero" : graph_.stages()[node.stage].name;
@@ -168,6 +188,8 @@ class BodyWriter {
     switch (node.op) {
       case Op::kInput:
         return style_.source + "[" + std::to_string(node.element) + "]";
+      case Op::kFetch:
+        return array(node) + ".load(" + std::to_string(node.element) + ")";
       case Op::kZero: {
         const std::string zero = node.precision == Precision::kSingle ? "0.0f" : "0.0";
         return node.lane_count == 1 ? zero
@@ -191,6 +213,8 @@ class BodyWriter {
         return name(node.a) + " - " + name(node.b);
       case Op::kMul:
         return factor(node) + " * " + name(node.a);
+      case Op::kProduct:
+        return name(node.a) + " * " + name(node.b);
       case Op::kScale:
         return style_.scale + " * " + name(node.a);
       case Op::kWiden:
@@ -234,6 +258,9 @@ class BodyWriter {
         return "load_low(" + address + ")";
       case Move::kLoadTwice:
         return "load_twice(" + address + ")";
+      case Move::kLoadHalves:
+        return "load_halves(" + address + ", " + style_.source + " + " +
+               std::to_string(form->high_element) + ")";
       case Move::kUnpackLow:
         return call("unpack_low");
       case Move::kUnpackHigh:
@@ -262,7 +289,10 @@ class BodyWriter {
         continue;
       }
       const std::string address = style_.destination + " + " + std::to_string(store.element);
-      if (store.function[0] == '\0') {
+      if (style_.stores_by_accessor) {
+        text_ << "  " << style_.destination << ".store(" << store.element << ", "
+              << names_[store.node] << ");\n";
+      } else if (store.function[0] == '\0') {
         text_ << "  " << style_.destination << "[" << store.element << "] = ";
         text_ << names_[store.node] << ";\n";
       } else {

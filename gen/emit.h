@@ -15,6 +15,11 @@ struct BodyStyle {
   std::string scale = "s";        // the factor, spread over the lanes
   // The kernel has aligned and unaligned access to memory, by a template parameter `Memory`.
   bool memory_policy = true;
+  // Accessors of fetched vectors, by number: `name.load(element)` brings one.
+  std::vector<std::string> accessors;
+  // Outputs are whole vectors that `destination.store(element, vector)` takes, and reach nothing
+  // that is read.
+  bool stores_by_accessor = false;
 };
 
 // The constants that the graph uses, one `constexpr` definition a line.

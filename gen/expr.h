@@ -21,6 +21,9 @@ struct Expr {
   friend Expr operator*(const Number& factor, const Expr& a) {
     return {a.graph, a.graph->mul(factor, a.value)};
   }
+  friend Expr operator*(const Expr& a, const Expr& b) {
+    return {a.graph, a.graph->product(a.value, b.value)};
+  }
 };
 
 }  // namespace gen

@@ -13,6 +13,16 @@ Value Graph::input(int element) {
   return {intern(node)};
 }
 
+Value Graph::fetch(int array, int element, int lane_count) {
+  Node node;
+  node.op = Op::kFetch;
+  node.precision = sample_;
+  node.lane_count = lane_count;
+  node.array = array;
+  node.element = element;
+  return {intern(node)};
+}
+
 Value Graph::zero(Precision precision, int lane_count) {
   Node node;
   node.op = Op::kZero;
@@ -81,6 +91,16 @@ Value Graph::mul(const Factors& factors, Value a) {
 Value Graph::mul(const Number& factor, Value a) {
   const Value product = mul(Factors(nodes_[a.node].lane_count, factor.magnitude()), a);
   return factor.is_negative() ? -product : product;
+}
+
+Value Graph::product(Value a, Value b) {
+  assert(nodes_[a.node].precision == nodes_[b.node].precision);
+  assert(nodes_[a.node].lane_count == nodes_[b.node].lane_count);
+  Node node = shaped_like(a.node);
+  node.op = Op::kProduct;
+  node.a = a.node;
+  node.b = b.node;
+  return {intern(node), a.negative != b.negative};
 }
 
 Value Graph::unary(Op op, Value a, Precision precision) {
@@ -155,12 +175,15 @@ Node Graph::shaped_like(NodeId id) const {
 
 NodeId Graph::intern(Node node) {
   NodeId a = node.a, b = node.b;
-  if (node.op == Op::kAdd && a > b) std::swap(a, b);
+  if ((node.op == Op::kAdd || node.op == Op::kProduct) && a > b) std::swap(a, b);
   std::vector<int> key = {static_cast<int>(node.op), static_cast<int>(node.precision),
                           node.lane_count};
   switch (node.op) {
     case Op::kInput:
       key.push_back(node.element);
+      break;
+    case Op::kFetch:
+      key.insert(key.end(), {node.array, node.element});
       break;
     case Op::kLanes:
       for (int lane = 0; lane < node.lane_count; ++lane) {
@@ -194,6 +217,8 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
   switch (node.op) {
     case Op::kInput:
       return graph.input(node.element);
+    case Op::kFetch:
+      return graph.fetch(node.array, node.element, node.lane_count);
     case Op::kZero:
       return graph.zero(node.precision, node.lane_count);
     case Op::kLanes: {
@@ -217,6 +242,8 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
       return graph.sub(operand(node.a), operand(node.b));
     case Op::kMul:
       return graph.mul(old.factors(node), operand(node.a));
+    case Op::kProduct:
+      return graph.product(operand(node.a), operand(node.b));
     case Op::kScale:
       return graph.scale(operand(node.a));
     case Op::kWiden:

@@ -23,16 +23,18 @@ enum class Precision : std::uint8_t { kSingle, kDouble };
 
 enum class Op : std::uint8_t {
   kInput,      // one element of the source array; one lane
+  kFetch,      // a vector that the caller of the code brings, by an accessor of its own
   kZero,       // the constant +0.0
   kLanes,      // lanes picked from other nodes; lanes that nobody reads may stay open
   kFlipSigns,  // negates some lanes
   kFromZero,   // 0.0 - a: the negative, but +0.0 of either zero
   kAdd,
   kSub,
-  kMul,    // each lane by its own constant
-  kScale,  // by the factor that the call's flag selects
-  kWiden,  // single to double
-  kRound,  // double to single
+  kMul,      // each lane by its own constant
+  kProduct,  // of two values
+  kScale,    // by the factor that the call's flag selects
+  kWiden,    // single to double
+  kRound,    // double to single
 };
 
 using NodeId = int;
@@ -61,7 +63,8 @@ struct Node {
   Precision precision = Precision::kSingle;
   int lane_count = 1;
   NodeId a = kNoNode, b = kNoNode;     // operands
-  int element = 0;                     // kInput: index in the source array
+  int element = 0;                     // kInput, kFetch: index in the array
+  int array = 0;                       // kFetch: number of the accessor
   unsigned flips = 0;                  // kFlipSigns: bit l negates lane l
   std::array<Lane, kMaxLanes> picks;   // kLanes
   std::array<int, kMaxLanes> factors;  // kMul: indices into Graph::numbers()
@@ -85,6 +88,8 @@ class Graph {
   explicit Graph(Precision sample) : sample_(sample) {}
 
   Value input(int element);
+  // Vector number `element` of those that accessor number `array` reaches.
+  Value fetch(int array, int element, int lane_count);
   Value zero(Precision precision, int lane_count = 1);
   // All picked lanes have the same precision; open lanes are default-constructed.
   Value lanes(const std::vector<Lane>& picks);
@@ -94,6 +99,7 @@ class Graph {
   Value mul(const Factors& factors, Value a);
   // By one constant in every lane; its sign moves out of the constant.
   Value mul(const Number& factor, Value a);
+  Value product(Value a, Value b);
   Value scale(Value a);
   // Carries out a sign that is still outside as 0.0 - a.
   Value settle_sign(Value a);

@@ -1,5 +1,7 @@
 #include "gen/interpret.h"
 
+#include <stdexcept>
+
 namespace gen {
 namespace {
 
@@ -41,6 +43,8 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
         case Op::kInput:
           result = source[node.element];
           break;
+        case Op::kFetch:
+          throw std::logic_error("what an accessor brings is not known here");
         case Op::kZero:
           result = 0;
           break;
@@ -57,6 +61,7 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
           break;
         case Op::kAdd:
         case Op::kSub:
+        case Op::kProduct:
           result = operate(node.precision, node.op, a, values[node.b][lane]);
           break;
         case Op::kMul: {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <sstream>
+#include <stdexcept>
 
 #include "gen/count.h"
 #include "gen/emit.h"
@@ -26,47 +27,60 @@ std::string heading(const Kernel& kernel, const Graph& graph) {
   return text.str();
 }
 
-std::string scale_table(const Kernel& kernel) {
+// The checks, and the factor that the flag selects as `factor`.
+std::string check_text(const Kernel& kernel) {
   const bool single = kernel.precision == Precision::kSingle;
   const auto literal = single ? float_literal : double_literal;
   const std::string by_n = literal(one_over_n(kernel.length)), one = literal(1);
-  const bool forward = kernel.scale_rule != ScaleRule::kInverse;
-  const bool inverse = kernel.scale_rule != ScaleRule::kForward;
+  const std::string by_sqrt_n = literal(one_over_sqrt_n(kernel.length));
+  const std::string check =
+      "  const zulgResult result = check_arguments(source, destination, flag, ";
+  const std::string fail = "  if (result != ZULG_OK) return result;\n";
+  if (kernel.scale_rule == ScaleRule::kBoth) {
+    return std::string(single ? "  float" : "  double") + " factor;\n" + check + by_n + ", " +
+           by_sqrt_n + ", factor);\n" + fail;
+  }
+  const bool forward = kernel.scale_rule == ScaleRule::kForward;
   return "  static constexpr auto kScale = scale_factors(" + (forward ? by_n : one) + ", " +
-         (inverse ? by_n : one) + ", " + literal(one_over_sqrt_n(kernel.length)) + ");\n";
+         (forward ? one : by_n) + ", " + by_sqrt_n + ");\n" + check + "kScale);\n" + fail;
 }
 
 std::string arguments_of(const Kernel& kernel) {
-  return "(const " + kernel.source_type + "* source, " + kernel.destination_type +
-         "* destination, zulgScaleFlag flag)";
+  return "const " + kernel.source_type + "* source, " + kernel.destination_type +
+         "* destination, zulgScaleFlag flag";
 }
 
 std::string emit_alias(const Kernel& kernel) {
   return "// " + kernel.name + " is " + kernel.same_as + ".\nZULGEN_EXPORT zulgResult " +
-         kernel.name + arguments_of(kernel) + "\n    __attribute__((alias(\"" + kernel.same_as +
-         "\")));\n";
+         kernel.name + "(" + arguments_of(kernel) + ")\n    __attribute__((alias(\"" +
+         kernel.same_as + "\")));\n";
 }
 
 }  // namespace
 
 std::string Kernel::twin_name() const { return "owng" + name.substr(4) + "_unaligned"; }
 
-Graph lowered(const Graph& graph, int source_elements) {
-  return synthesize_shuffles(load_vectors(absorb_sign_flips(graph), source_elements));
+Graph lowered(const Graph& graph, int source_elements, bool loads_halves) {
+  return synthesize_shuffles(load_vectors(absorb_sign_flips(graph), source_elements, loads_halves));
 }
 
 Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
 std::string emit_kernel(const Kernel& kernel) {
+  if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
   if (!kernel.same_as.empty()) return emit_alias(kernel);
   const Graph graph = kernel.graph();
-  const Graph code = lowered(graph, kernel.source_elements);
+  const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
   const std::string element = kernel.precision == Precision::kSingle ? "float" : "double";
   const bool vectors = kernel.bodies != Bodies::kOne;
   const std::string arguments = arguments_of(kernel);
+  const auto with_work = [&](const std::string& list, const std::string& work) {
+    return "(" + list + (kernel.has_work_argument ? ", " + work : "") + ")";
+  };
   const std::string body_name = kernel.name.substr(4);
-  const std::string factor = "kScale.by_flag[flag]";
+  const bool is_chosen = kernel.scale_rule == ScaleRule::kBoth;
+  const std::string factor = is_chosen ? "factor" : "kScale.by_flag[flag]";
   const std::string scale =
       vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
@@ -74,10 +88,8 @@ std::string emit_kernel(const Kernel& kernel) {
   text << heading(kernel, graph);
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
-  text << "inline zulgResult " << body_name << arguments << " {\n";
-  text << scale_table(kernel) << emit_constants(code);
-  text << "  const zulgResult result = check_arguments(source, destination, flag, kScale);\n";
-  text << "  if (result != ZULG_OK) return result;\n";
+  text << "inline zulgResult " << body_name << "(" << arguments << ") {\n";
+  text << check_text(kernel) << emit_constants(code);
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
   text << "  const auto s = " << scale << ";\n\n";
@@ -86,17 +98,19 @@ std::string emit_kernel(const Kernel& kernel) {
   text << emit_body(code, schedule(code, kernel.order), style);
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
-  const std::string pass = "(source, destination, flag);\n";
-  const std::string aligned = body_name + (vectors ? "<Aligned>" : "") + pass;
-  const std::string unaligned = body_name + "<Unaligned>" + pass;
-  if (kernel.bodies == Bodies::kTwin) {
-    text << "ZULGEN_TWIN zulgResult " << kernel.twin_name() << arguments << " {\n";
-    text << "  return " << unaligned << "}\n\n";
+  const std::string pass = "source, destination, flag";
+  const std::string aligned = body_name + (vectors ? "<Aligned>(" : "(") + pass + ");\n";
+  const std::string unaligned = body_name + "<Unaligned>(" + pass + ");\n";
+  const bool has_twin = kernel.bodies == Bodies::kTwin;
+  if (has_twin) {
+    text << "ZULGEN_TWIN zulgResult " << kernel.twin_name() << with_work(arguments, "void*")
+         << " {\n  return " << unaligned << "}\n\n";
   }
-  text << "ZULGEN_EXPORT zulgResult " << kernel.name << arguments << " {\n";
-  if (kernel.bodies == Bodies::kTwin) {
+  text << "ZULGEN_EXPORT zulgResult " << kernel.name
+       << with_work(arguments, has_twin ? "void* work" : "void*") << " {\n";
+  if (has_twin) {
     text << "  if (!is_aligned(source, destination, &source)) {\n";
-    text << "    return " << kernel.twin_name() << pass << "  }\n";
+    text << "    return " << kernel.twin_name() << with_work(pass, "work") << ";\n  }\n";
   } else if (kernel.bodies == Bodies::kBothInside) {
     // Too short to need the stack.
     text << "  if (!is_aligned(source, destination, nullptr)) return " << unaligned;

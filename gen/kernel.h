@@ -10,7 +10,8 @@
 
 namespace gen {
 
-// Which flag selects the factor 1 / N.
+// Which flag selects the factor 1 / N: the one of its direction, or, if a transform is its own
+// inverse, either.
 enum class ScaleRule { kForward, kInverse, kBoth };
 
 // How a kernel serves arrays that aren't aligned on 16 bytes.
@@ -38,6 +39,10 @@ struct Kernel {
   Bodies bodies = Bodies::kOne;
   // Whether the caller may pass a fourth argument, a work buffer.
   bool has_work_argument = false;
+  // Whether the function is generated, and not written by hand over generated bodies.
+  bool is_generated = true;
+  // See load_vectors().
+  bool loads_halves = false;
   Order order;
   // The data flow, as the network gives it.
   std::function<Graph()> graph;
@@ -47,7 +52,7 @@ struct Kernel {
 };
 
 // The graph in the form that is written out: sign flips in constants, lane moves as instructions.
-Graph lowered(const Graph& graph, int source_elements);
+Graph lowered(const Graph& graph, int source_elements, bool loads_halves = false);
 
 // The kernel's functions as C++.
 std::string emit_kernel(const Kernel& kernel);

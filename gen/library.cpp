@@ -27,6 +27,7 @@ void write_library(const std::string& directory, const Shards& shards) {
   std::map<std::string, std::size_t> next_shard, shard_of;
   const std::vector<Kernel> kernels = all_kernels();
   for (const Kernel& kernel : kernels) {
+    if (!kernel.is_generated) continue;
     const auto family = sources.find(kernel.family);
     if (family == sources.end()) throw std::runtime_error("no shards for " + kernel.family);
     // Kernels come in order of length, so that dealing them out evens out the files. A name that
@@ -51,6 +52,9 @@ void write_library(const std::string& directory, const Shards& shards) {
           source_file("Generated from the tables of " + family + "; a change belongs there.",
                       texts[shard]));
     }
+  }
+  for (const auto& [name, text] : body_headers()) {
+    write_if_changed(directory + "/" + name, text);
   }
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";

@@ -14,8 +14,8 @@ namespace gen {
 using Shards = std::map<std::string, int>;
 
 // Into `directory`: <family>.<shard>.cpp for every shard, <family>.dispatch.cpp with the entries
-// that pick one of the family's kernels by its length, and zulgens8.map, the linker's version
-// script, which exports what the manifest lists and nothing else. Throws
+// that pick one of the family's kernels by its length, the headers of manifest.h, and zulgens8.map,
+// the linker's version script, which exports what the manifest lists and nothing else. Throws
 // std::runtime_error.
 void write_library(const std::string& directory, const Shards& shards);
 

@@ -33,12 +33,21 @@ gen::Kernel find_kernel(const std::string& name) {
   throw UsageError("no kernel is called " + name);
 }
 
+std::string source_of(const std::string& name) {
+  for (const gen::Body& body : gen::all_bodies()) {
+    if (body.name == name) return gen::emit_body_function(body);
+  }
+  return gen::emit_kernel(find_kernel(name));
+}
+
 void print_counts() {
   std::cout << "kernel additions multiplications\n";
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
-    const gen::Counts counts = gen::count_operations(kernel.graph());
-    std::cout << kernel.name << " " << counts.additions << " " << counts.multiplications << "\n";
-  }
+  const auto print = [](const std::string& name, const gen::Graph& graph) {
+    const gen::Counts counts = gen::count_operations(graph);
+    std::cout << name << " " << counts.additions << " " << counts.multiplications << "\n";
+  };
+  for (const gen::Kernel& kernel : gen::all_kernels()) print(kernel.name, kernel.graph());
+  for (const gen::Body& body : gen::all_bodies()) print(body.name, body.graph());
 }
 
 void run(const std::vector<std::string>& arguments) {
@@ -58,7 +67,7 @@ void run(const std::vector<std::string>& arguments) {
       std::cout << find_kernel(value).recipe << "\n";
       return;
     } else if (option == "--print") {
-      std::cout << gen::emit_kernel(find_kernel(value));
+      std::cout << source_of(value);
       return;
     } else if (option == "--dot") {
       std::cout << gen::dot_graph(find_kernel(value));

@@ -2,26 +2,39 @@
 
 #include <algorithm>
 
+#include "dct4/kernels/kernels.h"
 #include "dft_complex/dft_complex.h"
 #include "dft_real/dft_real.h"
 #include "gen/dispatch.h"
 #include "hartley/hartley.h"
+#include "wht/wht.h"
 
 namespace gen {
 
 std::vector<Kernel> all_kernels() {
   std::vector<Kernel> result;
-  for (const auto& family : {dft_complex::kernels(), dft_real::kernels(), hartley::kernels()}) {
+  for (const auto& family :
+       {dft_complex::kernels(), dft_real::kernels(), hartley::kernels(), wht::kernels()}) {
     result.insert(result.end(), family.begin(), family.end());
   }
   return result;
 }
 
+std::vector<Body> all_bodies() { return dct4::bodies(); }
+
+std::map<std::string, std::string> body_headers() {
+  std::map<std::string, std::string> headers = headers_of_bodies(all_bodies());
+  headers["wht_bodies.h"] = wht::body_header();
+  return headers;
+}
+
 std::vector<std::string> exported_functions() {
-  std::vector<std::string> names = {"zulgenGetLibVersion"};
+  std::vector<std::string> names = {"zulgenGetLibVersion", "zulgWHTGetBufferSize_32f",
+                                    "zulgWHTGetBufferSize_64f"};
   const std::vector<Kernel> kernels = all_kernels();
   for (const Kernel& kernel : kernels) names.push_back(kernel.name);
   for (const DispatchEntry& entry : dispatch_entries(kernels)) names.push_back(entry.name);
+  for (const std::string& name : dct4::entries()) names.push_back(name);
   std::sort(names.begin(), names.end());
   return names;
 }

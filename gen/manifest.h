@@ -1,14 +1,22 @@
 // The manifest: every kernel of the library, and every function that it exports.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
+#include "gen/body.h"
 #include "gen/kernel.h"
 
 namespace gen {
 
 std::vector<Kernel> all_kernels();
+
+// The arithmetic of what is written by hand in terms of accessors.
+std::vector<Body> all_bodies();
+
+// The headers of generated bodies that code written by hand includes, by name.
+std::map<std::string, std::string> body_headers();
 
 // The kernels, their dispatch entries and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();

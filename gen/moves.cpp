@@ -34,7 +34,7 @@ std::optional<int> memory_run(const Graph& graph, const Node& node, int first, i
   return element;
 }
 
-// A load by itself: a whole vector, or half of one, alone or twice.
+// A load by itself: a whole vector, half of one, alone or twice, or two halves.
 std::optional<MoveForm> single_load(const Graph& graph, const Node& node) {
   const int width = node.lane_count, half = width / 2;
   MoveForm form{};
@@ -47,6 +47,9 @@ std::optional<MoveForm> single_load(const Graph& graph, const Node& node) {
     form.move = Move::kLoadLow;
   } else if (memory_run(graph, node, half, half) == low) {
     form.move = Move::kLoadTwice;
+  } else if (const auto high = memory_run(graph, node, half, half)) {
+    form.move = Move::kLoadHalves;
+    form.high_element = *high;
   } else {
     return std::nullopt;
   }
@@ -146,12 +149,15 @@ std::optional<MoveForm> single_move(const Graph& graph, NodeId lanes) {
   return std::nullopt;
 }
 
-Graph load_vectors(const Graph& old, int source_length) {
+Graph load_vectors(const Graph& old, int source_length, bool by_halves) {
+  const auto stays = [&](const MoveForm& load) {
+    return load.move == Move::kLoadHalves ? by_halves : load.move != Move::kLoad;
+  };
   return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
     const Node& node = old[id];
     const int width = node.lane_count;
     const auto load = node.op == Op::kLanes ? single_load(old, node) : std::nullopt;
-    if (node.op != Op::kLanes || (load && load->move != Move::kLoad)) {
+    if (node.op != Op::kLanes || (load && stays(*load))) {
       return copy_node(old, id, graph, new_value);
     }
     std::vector<Lane> picks;

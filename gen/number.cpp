@@ -93,6 +93,13 @@ Number sin_of_turn(long numerator, long denominator) {
   return cos_of_turn(4 * numerator - denominator, 4 * denominator);
 }
 
+Number tan_of_turn(long numerator, long denominator) {
+  const Number sine = sin_of_turn(numerator, denominator);
+  const long common = std::gcd(numerator, denominator);
+  return Number(sine.value() / cos_of_turn(numerator, denominator).value(),
+                "tan " + fraction(numerator / common, denominator / common));
+}
+
 ComplexNumber unit_root(long numerator, long denominator) {
   return {cos_of_turn(numerator, denominator), sin_of_turn(numerator, denominator)};
 }

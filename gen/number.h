@@ -42,6 +42,7 @@ Number ratio(int numerator, int denominator);
 // Cosine and sine of numerator / denominator of a full turn.
 Number cos_of_turn(long numerator, long denominator);
 Number sin_of_turn(long numerator, long denominator);
+Number tan_of_turn(long numerator, long denominator);  // of the first eighth
 
 // A point of the complex plane, such as a twiddle factor.
 struct ComplexNumber {

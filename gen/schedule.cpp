@@ -42,7 +42,7 @@ std::uint32_t tie_break(int variant, int item) {
 
 bool is_load(const Graph& graph, NodeId id) {
   const Node& node = graph[id];
-  if (node.op == Op::kInput || node.op == Op::kZero) return true;
+  if (node.op == Op::kInput || node.op == Op::kFetch || node.op == Op::kZero) return true;
   if (node.op != Op::kLanes) return false;
   const auto form = single_move(graph, id);
   return form && form->a == kNoNode;

@@ -16,9 +16,12 @@
 #ifndef ZULGEN_HPP
 #define ZULGEN_HPP
 
+#include <bit>
 #include <complex>
 #include <cstddef>
 #include <span>
+#include <type_traits>
+#include <utility>
 
 #include "zulgen.h"
 
@@ -264,6 +267,111 @@ template <std::size_t N>
   if (src.size() != dst.size()) return ZULG_ERR_SIZE;
   return detail::call(zulgHartley_64f, src, dst, src.size(), scale);
 }
+
+// Walsh-Hadamard transform in natural order: zulgen/wht.h. The size of both spans is a power of two
+// up to 8192, else ZULG_ERR_SIZE and nothing written. From 256 samples on it takes a work buffer,
+// of work_bytes() and aligned on 16 bytes, or without one allocates for the time of the call.
+
+namespace detail {
+
+template <class Real, class Entry>
+zulgResult walsh_hadamard(Entry entry, std::size_t work_bytes, std::span<const Real> src,
+                          std::span<Real> dst, Scale scale, std::span<std::byte> work) {
+  if (src.size() != dst.size() || !std::has_single_bit(src.size())) return ZULG_ERR_SIZE;
+  if (!work.empty() && work.size() < work_bytes) return ZULG_ERR_SIZE;
+  return entry(src.data(), dst.data(), std::countr_zero(src.size()),
+               static_cast<zulgScaleFlag>(scale), work.empty() ? nullptr : work.data());
+}
+
+}  // namespace detail
+
+// Bytes of the work buffer for that many samples; 0 if it takes none, or there is no such
+// transform.
+template <class Real>
+std::size_t work_bytes(std::size_t samples) noexcept {
+  constexpr auto kSize =
+      std::is_same_v<Real, float> ? zulgWHTGetBufferSize_32f : zulgWHTGetBufferSize_64f;
+  int bytes = 0;
+  if (std::has_single_bit(samples)) kSize(std::countr_zero(samples), &bytes);
+  return static_cast<std::size_t>(bytes);
+}
+
+[[nodiscard]] inline zulgResult walsh_hadamard(std::span<const float> src, std::span<float> dst,
+                                               Scale scale,
+                                               std::span<std::byte> work = {}) noexcept {
+  return detail::walsh_hadamard(zulgWHT_32f, work_bytes<float>(src.size()), src, dst, scale, work);
+}
+[[nodiscard]] inline zulgResult walsh_hadamard(std::span<const double> src, std::span<double> dst,
+                                               Scale scale,
+                                               std::span<std::byte> work = {}) noexcept {
+  return detail::walsh_hadamard(zulgWHT_64f, work_bytes<double>(src.size()), src, dst, scale, work);
+}
+
+// A plan for the DCT-IV of one length: zulgen/dct4.h. It owns the plan's memory. As the plan is
+// what the transform works in, calls of one plan must not run side by side.
+template <class Real>
+class Dct4 {
+  static_assert(std::is_same_v<Real, float> || std::is_same_v<Real, double>);
+  static constexpr bool kSingle = std::is_same_v<Real, float>;
+  using Spec = std::conditional_t<kSingle, zulgDCT4Spec_32f, zulgDCT4Spec_64f>;
+
+ public:
+  // Without a plan, as after being moved from.
+  Dct4() = default;
+  Dct4(Dct4&& other) noexcept
+      : spec_(std::exchange(other.spec_, nullptr)), size_(std::exchange(other.size_, 0)) {}
+  Dct4& operator=(Dct4&& other) noexcept {
+    std::swap(spec_, other.spec_);
+    std::swap(size_, other.size_);
+    return *this;
+  }
+  ~Dct4() {
+    if (spec_ == nullptr) return;
+    if constexpr (kSingle) {
+      zulgDCT4Free_32f(spec_);
+    } else {
+      zulgDCT4Free_64f(spec_);
+    }
+  }
+
+  // Makes the plan; what zulgDCT4InitAlloc returns, and ZULG_ERR_SIZE for the lengths that it takes
+  // without use. After an error there is no plan.
+  [[nodiscard]] zulgResult plan(std::size_t n) noexcept {
+    *this = Dct4();
+    constexpr std::size_t kLongest = std::size_t{1} << 28, kFirstUseless = kSingle ? 33 : 9;
+    const bool is_useless = n >= kFirstUseless && std::has_single_bit(n - 1);
+    if (n > kLongest || is_useless) return ZULG_ERR_SIZE;
+    Spec* spec = nullptr;
+    zulgResult result;
+    if constexpr (kSingle) {
+      result = zulgDCT4InitAlloc_32f(&spec, static_cast<int>(n));
+    } else {
+      result = zulgDCT4InitAlloc_64f(&spec, static_cast<int>(n));
+    }
+    if (result == ZULG_OK) {
+      spec_ = spec;
+      size_ = n;
+    }
+    return result;
+  }
+
+  // The planned length; 0 if there is no plan.
+  std::size_t size() const noexcept { return size_; }
+
+  // ZULG_ERR_SIZE, and nothing written, unless both spans have the planned length.
+  [[nodiscard]] zulgResult operator()(std::span<const Real> src, std::span<Real> dst) noexcept {
+    if (size_ == 0 || src.size() != size_ || dst.size() != size_) return ZULG_ERR_SIZE;
+    if constexpr (kSingle) {
+      return zulgDCT4_32f(src.data(), dst.data(), spec_);
+    } else {
+      return zulgDCT4_64f(src.data(), dst.data(), spec_);
+    }
+  }
+
+ private:
+  Spec* spec_ = nullptr;
+  std::size_t size_ = 0;
+};
 
 }  // namespace zulgen
 

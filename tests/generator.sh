@@ -5,7 +5,7 @@ set -eu
 build=$1
 generate=$build/bin/zulgen-generate
 shards=""
-for family in dft_complex_32fc dft_complex_64fc dft_real_32f dft_real_64f hartley_32f hartley_64f; do
+for family in dft_complex_32fc dft_complex_64fc dft_real_32f dft_real_64f hartley_32f hartley_64f wht_32f wht_64f; do
   shards="$shards --shards $family=3"
 done
 work=$(mktemp -d)
@@ -27,6 +27,9 @@ name=zulgDFTInv_CToC_12_32fc
 [ "$("$generate" --recipe $name)" = "PFA(4, 3)" ] || fail "--recipe"
 "$generate" --counts | grep -qx "$name 96 16" || fail "--counts"
 "$generate" --print $name | grep -q "ZULGEN_EXPORT zulgResult $name" || fail "--print"
+"$generate" --counts | grep -qx "owngDCT4_64fw7_first_stage_16 68 32" || fail "--counts of bodies"
+"$generate" --print owngDCT4_32fw7_base_case_8 | grep -q "void owngDCT4_32fw7_base_case_8" ||
+  fail "--print of bodies"
 "$generate" --dot $name | grep -q "digraph $name" || fail "--dot"
 "$generate" --variants $name --order "live 0" --order "bisect 2" | grep -q "zulgResult ${name}_1" ||
   fail "--variants"

@@ -72,6 +72,9 @@ int largest_prime_factor(int n) {
 // double and rounds every value about twice a stage: 0.5 u.
 double error_bound(const gen::Kernel& kernel) {
   const int n = kernel.length, prime = largest_prime_factor(n);
+  // A stage rounds every value once, by an error that is spread evenly over 2 u times a power of
+  // two below the value: at most u / sqrt(3) of it on average. Errors of stages add up in squares.
+  if (kernel.family.starts_with("wht")) return std::sqrt(std::log2(n) / 3);
   const bool is_complex = kernel.name.find("CToC") != std::string::npos;
   const bool sums_are_double = !is_complex && kernel.precision == gen::Precision::kSingle;
   if (prime <= 11 && (n != prime || prime <= 5)) return sums_are_double ? 1.5 : 1.7;

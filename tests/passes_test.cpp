@@ -152,18 +152,21 @@ TEST(Moves, NeverLoadBehindTheSource) {
                                     {graph.input(2 * partner + 1).node, 0}});
     output_vector(graph, 4 * sample, graph.add(pair, pair));
   }
-  const Graph loaded = gen::load_vectors(graph, 10);
-  for (NodeId id = 0; id < loaded.size(); ++id) {
-    if (loaded[id].op != Op::kLanes) continue;
-    const auto form = gen::single_move(loaded, id);
-    ASSERT_TRUE(form);
-    const int count = form->move == gen::Move::kLoad      ? 4
-                      : form->move == gen::Move::kLoadLow ? 2
-                                                          : 0;
-    EXPECT_LE(form->element + count, 10);
-  }
   const std::vector<double> source = random_source(10);
-  EXPECT_EQ(gen::interpret(loaded, source, 1), gen::interpret(graph, source, 1));
+  for (const bool by_halves : {false, true}) {
+    const Graph loaded = gen::load_vectors(graph, 10, by_halves);
+    for (NodeId id = 0; id < loaded.size(); ++id) {
+      if (loaded[id].op != Op::kLanes) continue;
+      const auto form = gen::single_move(loaded, id);
+      ASSERT_TRUE(form);
+      const bool is_load = form->a == gen::kNoNode;
+      const int count = !is_load ? 0 : form->move == gen::Move::kLoad ? 4 : 2;
+      EXPECT_LE(form->element + count, 10);
+      EXPECT_LE(form->high_element + 2, 10);
+    }
+    EXPECT_EQ(gen::count_vector_operations(loaded).moves == 0, by_halves) << "loads do it all";
+    EXPECT_EQ(gen::interpret(loaded, source, 1), gen::interpret(graph, source, 1));
+  }
 }
 
 TEST(WidenProducts, RoundsWhereASingleSumReads) {

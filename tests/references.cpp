@@ -4,6 +4,8 @@
 
 #include <stdexcept>
 
+#include "networks/walsh_hadamard.h"
+
 namespace references {
 namespace {
 
@@ -72,6 +74,11 @@ Values hartley(int n, const std::vector<double>& x) {
   return y;
 }
 
+// By its fast algorithm: the definition would take too long, and has a test of its own.
+Values walsh_hadamard(int, const std::vector<double>& x) {
+  return networks::walsh_hadamard(Values(x.begin(), x.end()));
+}
+
 }  // namespace
 
 harness::Reference of(const gen::Kernel& kernel) {
@@ -89,6 +96,7 @@ harness::Reference of(const gen::Kernel& kernel) {
   if (starts("zulgDFTFwd_RToCCS")) return with(real_dft);
   if (starts("zulgDFTInv_CCSToR")) return with(inverse_real_dft);
   if (starts("zulgHartley")) return with(hartley);
+  if (starts("zulgWHT")) return with(walsh_hadamard);
   throw std::invalid_argument("no definition of " + kernel.name);
 }
 

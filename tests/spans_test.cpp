@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstring>
+#include <memory>
 #include <random>
 #include <vector>
 
@@ -111,6 +112,48 @@ TEST(Spans, RefuseSizesThatDontFit) {
   EXPECT_EQ(zulgen::dft_forward(points, same, Scale::kNone), ZULG_ERR_SIZE);
   EXPECT_EQ(zulgen::dft_inverse(points, fewer, Scale::kNone), ZULG_ERR_SIZE);
   EXPECT_EQ(other, std::vector<double>(9, 0.5));
+}
+
+TEST(Spans, WalshHadamardTakesItsOrderFromTheSize) {
+  for (const std::size_t n : {2, 64, 256}) {
+    std::vector<float> x(n), y(n), z(n);
+    for (std::size_t i = 0; i < n; ++i) x[i] = static_cast<float>(i * i % 17);
+    std::vector<std::byte> work(zulgen::work_bytes<float>(n) + 16);
+    void* at = work.data();
+    std::size_t room = work.size();
+    std::align(16, room - 16, at, room);
+    const std::span<std::byte> buffer(static_cast<std::byte*>(at), work.size() - 16);
+    EXPECT_EQ(zulgen::walsh_hadamard(x, y, Scale::kBySqrtN), ZULG_OK);
+    EXPECT_EQ(zulgen::walsh_hadamard(x, z, Scale::kBySqrtN, buffer), ZULG_OK);
+    EXPECT_EQ(y, z);
+    EXPECT_EQ(zulgen::walsh_hadamard(y, z, Scale::kBySqrtN), ZULG_OK);
+    for (std::size_t i = 0; i < n; ++i) EXPECT_NEAR(z[i], x[i], 1e-4) << n;
+  }
+  std::vector<double> x(256, 1), y(256, 0.5);
+  std::byte small[8];
+  EXPECT_EQ(zulgen::walsh_hadamard(x, y, Scale::kNone, small), ZULG_ERR_SIZE);
+  EXPECT_EQ(zulgen::walsh_hadamard(std::span(x).first(3), std::span(y).first(3), Scale::kNone),
+            ZULG_ERR_SIZE);
+  EXPECT_EQ(y[0], 0.5);
+}
+
+TEST(Spans, ADct4PlanMovesAndEnds) {
+  std::vector<double> x(64), y(64, 0.5), z(64);
+  for (std::size_t i = 0; i < x.size(); ++i) x[i] = static_cast<double>(i * i % 17);
+  zulgen::Dct4<double> first;
+  EXPECT_EQ(first(x, y), ZULG_ERR_SIZE);
+  EXPECT_EQ(first.plan(65), ZULG_ERR_SIZE);
+  ASSERT_EQ(first.plan(64), ZULG_OK);
+  zulgen::Dct4<double> second = std::move(first);
+  EXPECT_EQ(first.size(), 0u);
+  EXPECT_EQ(second.size(), 64u);
+  EXPECT_EQ(first(x, y), ZULG_ERR_SIZE);
+  EXPECT_EQ(y[0], 0.5);
+  // Its own inverse, up to the factor 2 / n.
+  EXPECT_EQ(second(x, y), ZULG_OK);
+  EXPECT_EQ(second(y, z), ZULG_OK);
+  for (std::size_t i = 0; i < x.size(); ++i) EXPECT_NEAR(z[i] * 2 / 64, x[i], 1e-12);
+  EXPECT_EQ(second(x, std::span(y).first(63)), ZULG_ERR_SIZE);
 }
 
 }  // namespace

@@ -2,14 +2,16 @@
  *
  *   zulgDFTFwd_CToC_32fc(src, dst, 12, flag)  does what  zulgDFTFwd_CToC_12_32fc(src, dst, flag)  does
  *
- * and so for every function whose name has a length. The sizes and layouts of the arrays, alignment
+ * and so for every function whose name has a length or an order. The sizes and layouts of the arrays, alignment
  * and in-place use are those of the kernel that is called.
  *
  *   length  2 to 64
+ *   order   of the Walsh-Hadamard transform: 1 to 13
+ *   work    its work buffer, or null
  *   flag    the scale flag
  *
- * Returns ZULG_ERR_SIZE, whatever the other arguments are, if there is no kernel of that length; else
- * what the kernel returns. After an error dst is as it was.
+ * Returns ZULG_ERR_SIZE, whatever the other arguments are, if there is no kernel of that length or
+ * order; else what the kernel returns. After an error dst is as it was.
  *
  * The kernel is found by one look into a constant table: a call takes about two cycles more than a
  * call of the kernel by its name. Re-entrant. */
@@ -43,6 +45,9 @@ ZULGEN_BY_LENGTH(zulgDFTInv_PermToR_32f, zulg32f);
 ZULGEN_BY_LENGTH(zulgDFTInv_PermToR_64f, zulg64f);
 ZULGEN_BY_LENGTH(zulgHartley_32f, zulg32f);
 ZULGEN_BY_LENGTH(zulgHartley_64f, zulg64f);
+
+zulgResult zulgWHT_32f(const zulg32f* src, zulg32f* dst, int order, zulgScaleFlag flag, void* work);
+zulgResult zulgWHT_64f(const zulg64f* src, zulg64f* dst, int order, zulgScaleFlag flag, void* work);
 
 #undef ZULGEN_BY_LENGTH
 

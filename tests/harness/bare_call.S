@@ -30,7 +30,7 @@ bare_call:
         and $-16, %esp
         sub $16, %esp
         add %esi, %esp          # a multiple of 16, plus the offset
-        sub $4, %esp            # three arguments below make 16 again
+        push $0                 # the work buffer of those kernels that take one
         push %ebx
         push %edx
         push %ecx

@@ -1,0 +1,41 @@
+// The generated part of the DCT-IV: which kernels there are, and how each is factored.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "gen/body.h"
+
+namespace dct4 {
+
+// Kernels come in four kinds, which a plan puts together.
+enum class Kind {
+  kFirstStage,   // T(size)
+  kSkewSum,      // a skew transform of `size` values, rotated by a table
+  kSecondStage,  // `size` values rotated by a table, and mapped to 2 * size results
+  kBaseCase,     // the whole transform of length `size`
+};
+
+struct Row {
+  Kind kind;
+  int size;
+  std::vector<int> radices;  // of the splits; none in a skew transform, whose splits are fixed
+  const char* order_32f;     // as measured fastest, in the notation of gen/schedule.h
+  const char* order_64f;
+};
+extern const std::vector<Row> kRows;
+
+// "first_stage_16" and the like: the name without what stands for the sample type.
+std::string name(const Row& row);
+
+// The data flow, with all lanes of a vector taking part in the same operations.
+gen::Graph graph(const Row& row, gen::Precision precision);
+
+// All kernels in both precisions.
+std::vector<gen::Body> bodies();
+
+// The exported functions.
+std::vector<std::string> entries();
+
+}  // namespace dct4

@@ -1,0 +1,113 @@
+// The objects of a plan.
+//
+//   env1            the whole transform of length n, or a base case
+//     envfCompose     the angles of the rotations
+//     env2            second stage: m vectors of d values
+//       envfsplit       the angles, by group and lane
+//       env4            leaf: rotates and maps them, L of the m at a time
+//     env3            first stage: d columns of N values
+//       env5            T(N) on L columns at a time
+//         env7            a T(N) too long for one kernel, split by r
+//           envlambda       by how much the frequencies of the skew transforms are moved
+//           env8            leaf: the M / 2 skew transforms of r values
+//           env9            r transforms T(M), M = N / r, each a kernel or an env7 again
+//
+// with n = N d = 2 m d. Each object is owned by the one it stands under, in `children`; the other
+// lists give quick access to some of these. Parameters are those of the formula that a step stands
+// for: some repeat another, and some are read by nobody.
+#pragma once
+
+#include "dct4/arena.h"
+
+namespace zulgen {
+
+struct Step {  // what every step begins with
+  ObjectHeader header;
+  int (*plan)(void* object);
+  Arena* arena;
+};
+
+struct Function {  // what every function object begins with
+  ObjectHeader header;
+  Sample (*at)(const void* object, int u, int v, int w);
+  Arena* arena;
+};
+
+struct envfCompose {
+  Function function;
+  int row, denominator, m, d, row_2;  // 2 d, 8 n, m, d, 2 d
+};
+
+struct envfsplit {
+  Function function;
+  int row, groups;  // 2 d, m / L
+  envfCompose* compose;
+};
+
+struct envlambda {
+  Function function;
+  int N, r;
+};
+
+struct env1 {
+  Step step;
+  EnvList *children, *stage2, *stage1;
+  Sample* work;  // n samples, between the stages: N rows of d
+  int rule, d, n;
+};
+
+struct env2 {
+  Step step;
+  EnvList *children, *steps;
+  Sample* work;                             // null
+  int rule, d, n, kernel, m, n_2, last, N;  // kernel: 2 d; last: 2 n - 1
+  envfCompose* twiddle;
+};
+
+struct env3 {
+  Step step;
+  EnvList *children, *steps;
+  Sample* work;                               // null
+  int rule, N, n, last, stride, d, n_2, d_2;  // stride: 2 d
+};
+
+struct env4 {
+  Step step;
+  EnvList* children;                                    // none
+  Sample* table;                                        // for each group, d pairs of vectors
+  int rule, d, n, kernel, block, groups, n_2, last, N;  // block: 2 d L, groups: m / L
+  envfsplit* twiddle;
+};
+
+struct env5 {
+  Step step;
+  EnvList *children, *steps;
+  Sample* work;                                              // null
+  int rule, N, n, last, in_stride, groups, n_2, out_stride;  // in_stride: 2 d, out_stride: d
+};
+
+struct env7 {
+  Step step;
+  EnvList *children, *first, *second;
+  Sample* work;  // n samples, between the steps, of which a call uses L columns
+  int rule, N, r, n, n_2, in_stride, n_3, out_stride;
+};
+
+struct env8 {
+  Step step;
+  EnvList* children;  // none
+  Sample* table;      // for each of the transforms, r - 1 pairs of vectors, each of equal lanes
+  // block: 2 r stride, sums: M / 2, half: N / 2, last: N - 1
+  int rule, r, n, stride, block, sums, n_2, half, last, stride_2, M;
+  envlambda* lambda;
+};
+
+struct env9 {
+  Step step;
+  EnvList *children, *steps;
+  Sample* work;  // null
+  // inner_in and inner_out: strides of the T(M), r times those of the split
+  int rule, M, n, n_2, inner_in, in_stride, r, n_3, inner_out, out_stride;
+};
+
+}  // namespace zulgen

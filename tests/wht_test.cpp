@@ -1,0 +1,269 @@
+// What the Walsh-Hadamard kernels promise beyond the harness: the bits of the plain stage rule, the
+// natural order, and how they use their work buffer and the allocator, which is this program's own.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <climits>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <random>
+#include <vector>
+
+#include "gen/count.h"
+#include "tests/harness/guarded_array.h"
+#include "wht/wht.h"
+#include "zulcore.h"
+#include "zulgen.h"
+
+namespace {
+
+// What has gone through the program's own pair, which the library is bound to.
+std::vector<std::pair<std::size_t, void*>> allocated;
+std::vector<void*> freed;
+
+}  // namespace
+
+extern "C" void* zulMalloc(size_t size) {
+  void* block = nullptr;
+  if (posix_memalign(&block, 16, size) != 0) return nullptr;
+  std::memset(block, 0xff, size);
+  allocated.emplace_back(size, block);
+  return block;
+}
+
+extern "C" void zulFree(void* block) {
+  freed.push_back(block);
+  std::free(block);
+}
+
+namespace {
+
+constexpr int kLastOrder = 13;
+constexpr unsigned char kPattern = 0xa5;
+
+template <class T>
+constexpr const char* kType = sizeof(T) == sizeof(float) ? "_32f" : "_64f";
+
+template <class T>
+struct Kernel {
+  explicit Kernel(int order)
+      : order(order),
+        length(1 << order),
+        function(dlsym(RTLD_DEFAULT, ("zulgWHT_" + std::to_string(order) + kType<T>).c_str())) {}
+
+  zulgResult operator()(const T* source, T* destination, zulgScaleFlag flag, void* work) const {
+    using Function = zulgResult (*)(const T*, T*, zulgScaleFlag, void*);
+    return reinterpret_cast<Function>(function)(source, destination, flag, work);
+  }
+
+  std::size_t bytes() const { return length * sizeof(T); }
+  std::size_t work_bytes() const {
+    int size = -1;
+    (sizeof(T) == sizeof(float) ? zulgWHTGetBufferSize_32f : zulgWHTGetBufferSize_64f)(order,
+                                                                                       &size);
+    return size;
+  }
+
+  const int order, length;
+  void* const function;
+};
+
+template <class T>
+std::vector<T> random_samples(int length, unsigned seed) {
+  std::mt19937 random(seed);
+  std::uniform_real_distribution<double> uniform(-1, 1);
+  std::vector<T> samples(length);
+  for (T& x : samples) x = static_cast<T>(std::ldexp(uniform(random), random() % 20));
+  return samples;
+}
+
+// The definition of every rounding.
+template <class T>
+std::vector<T> by_stage_rule(std::vector<T> v, zulgScaleFlag flag) {
+  const double length = v.size();
+  const T s = flag == ZULG_SCALE_NONE        ? T(1)
+              : flag == ZULG_SCALE_BY_SQRT_N ? static_cast<T>(1.0 / std::sqrt(length))
+                                             : static_cast<T>(1.0 / length);
+  for (std::size_t bit = 1; bit < v.size(); bit *= 2) {
+    for (std::size_t i = 0; i < v.size(); ++i) {
+      if (i & bit) continue;
+      const T a = v[i], b = v[i + bit];
+      v[i] = a + b;
+      v[i + bit] = a - b;
+    }
+  }
+  for (T& x : v) x = x * s;
+  return v;
+}
+
+template <class T>
+class Wht : public testing::Test {
+ protected:
+  void SetUp() override {
+    allocated.clear();
+    freed.clear();
+  }
+};
+using Types = testing::Types<float, double>;
+TYPED_TEST_SUITE(Wht, Types);
+
+// On both bodies, in place or not, with a clean, a dirty and no work buffer.
+TYPED_TEST(Wht, HasTheBitsOfTheStageRule) {
+  using T = TypeParam;
+  for (int order = 1; order <= kLastOrder; ++order) {
+    const Kernel<T> kernel(order);
+    harness::GuardedArray one(kernel.bytes() + 16), other(kernel.bytes() + 16);
+    harness::GuardedArray work(kernel.work_bytes());
+    const std::vector<T> input = random_samples<T>(kernel.length, order);
+    for (const zulgScaleFlag flag : {1, 2, 4, 8}) {
+      const std::vector<T> expected = by_stage_rule(input, flag);
+      for (int variant = 0; variant < 3 * 8; ++variant) {
+        T* source = reinterpret_cast<T*>(one.at_begin(variant & 1 ? sizeof(T) : 0));
+        T* destination = reinterpret_cast<T*>(other.at_begin(variant & 2 ? sizeof(T) : 0));
+        if (variant & 4) destination = source;
+        other.fill(kPattern);
+        work.fill(variant / 8 == 1 ? 0xff : 0);
+        std::memcpy(source, input.data(), kernel.bytes());
+        void* buffer = variant / 8 == 2 ? nullptr : work.at_begin(0);
+        ASSERT_EQ(kernel(source, destination, flag, buffer), ZULG_OK);
+        ASSERT_EQ(std::memcmp(destination, expected.data(), kernel.bytes()), 0)
+            << "order " << order << " flag " << flag << " variant " << variant;
+      }
+    }
+  }
+}
+
+// Whole numbers add without rounding, so every output is the sum by definition.
+TYPED_TEST(Wht, IsInNaturalOrder) {
+  using T = TypeParam;
+  std::mt19937 random(3);
+  for (int order = 1; order <= kLastOrder; ++order) {
+    const Kernel<T> kernel(order);
+    std::vector<T> x(kernel.length), y(kernel.length);
+    for (T& sample : x) sample = static_cast<T>(static_cast<int>(random() % 401) - 200);
+    ASSERT_EQ(kernel(x.data(), y.data(), ZULG_SCALE_NONE, nullptr), ZULG_OK);
+    for (int k = 0; k < kernel.length; k += 1 + static_cast<int>(random() % (1 << order / 2))) {
+      double sum = 0;
+      for (int j = 0; j < kernel.length; ++j)
+        sum += std::popcount(unsigned(j & k)) % 2 ? -x[j] : x[j];
+      ASSERT_EQ(y[k], sum) << "order " << order << " output " << k;
+    }
+  }
+}
+
+TYPED_TEST(Wht, TouchesTheStatedBytesOfItsWorkBuffer) {
+  using T = TypeParam;
+  for (int order = 8; order <= kLastOrder; ++order) {
+    const Kernel<T> kernel(order);
+    const std::size_t size = kernel.work_bytes();
+    harness::GuardedArray work(size + 64);
+    const std::vector<T> x(kernel.length + 1, T(1));
+    std::vector<T> y(kernel.length + 1);
+    for (const int offset : {0, 1}) {
+      for (char* const buffer : {work.at_begin(0), work.at_end(size, 0)}) {
+        work.fill(kPattern);
+        EXPECT_TRUE(harness::runs_without_fault(
+            [&] { kernel(x.data() + offset, y.data() + offset, ZULG_SCALE_NONE, buffer); }));
+        EXPECT_TRUE(work.is_intact(kPattern, buffer, size)) << order;
+        EXPECT_NE(static_cast<unsigned char>(buffer[size - 1]), kPattern) << order;
+      }
+    }
+  }
+  EXPECT_TRUE(allocated.empty());
+}
+
+TYPED_TEST(Wht, AllocatesOnceIfItHasNoWorkBuffer) {
+  using T = TypeParam;
+  for (int order = 1; order <= kLastOrder; ++order) {
+    const Kernel<T> kernel(order);
+    const std::vector<T> x(kernel.length + 1);
+    std::vector<T> y(kernel.length + 1);
+    for (const int offset : {0, 1}) {
+      this->SetUp();
+      kernel(x.data() + offset, y.data() + offset, ZULG_SCALE_NONE, nullptr);
+      ASSERT_EQ(allocated.size(), order < 8 ? 0 : 1) << order;
+      ASSERT_EQ(freed.size(), allocated.size()) << order;
+      if (order < 8) continue;
+      EXPECT_EQ(allocated[0], std::pair(kernel.work_bytes(), freed[0]));
+    }
+  }
+}
+
+TYPED_TEST(Wht, TouchesNothingIfItFails) {
+  using T = TypeParam;
+  for (int order = 1; order <= kLastOrder; ++order) {
+    const Kernel<T> kernel(order);
+    const std::vector<T> x(kernel.length + 1, T(1)), before(kernel.length + 1, T(7));
+    std::vector<T> y = before;
+    const std::vector<unsigned char> clean(kernel.work_bytes() + 16, kPattern);
+    std::vector<unsigned char> work = clean;
+    for (const int offset : {0, 1}) {
+      const T *const from = x.data() + offset, *const none = nullptr;
+      T* const to = y.data() + offset;
+      for (void* buffer : {static_cast<void*>(nullptr), static_cast<void*>(work.data())}) {
+        EXPECT_EQ(kernel(from, to, 3, buffer), ZULG_ERR_FLAG);
+        EXPECT_EQ(kernel(none, to, 3, buffer), ZULG_ERR_NULL_PTR);
+        EXPECT_EQ(kernel(none, to, ZULG_SCALE_NONE, buffer), ZULG_ERR_NULL_PTR);
+        EXPECT_EQ(kernel(from, nullptr, ZULG_SCALE_NONE, buffer), ZULG_ERR_NULL_PTR);
+      }
+    }
+    EXPECT_EQ(y, before) << order;
+    EXPECT_EQ(work, clean) << order;
+  }
+  EXPECT_TRUE(allocated.empty() && freed.empty());
+}
+
+// Orders 1 to 7 don't look at the last argument: no pointer is too bad.
+TYPED_TEST(Wht, TakesAnyWorkBufferWhereItNeedsNone) {
+  using T = TypeParam;
+  for (int order = 1; order < 8; ++order) {
+    const Kernel<T> kernel(order);
+    const std::vector<T> x = random_samples<T>(kernel.length, order);
+    std::vector<T> y(kernel.length);
+    EXPECT_TRUE(harness::runs_without_fault(
+        [&] { kernel(x.data(), y.data(), ZULG_SCALE_NONE, reinterpret_cast<void*>(7)); }));
+    EXPECT_EQ(y, by_stage_rule(x, ZULG_SCALE_NONE)) << order;
+  }
+}
+
+TEST(WhtBufferSize, IsTheStatedOne) {
+  const int single[] = {0, 0, 0, 0, 0, 0, 0, 0x400, 0x800, 0x1000, 0x2000, 0x4800, 0x8800};
+  const int twice[] = {0, 0, 0, 0, 0, 0, 0, 0x800, 0x1000, 0x2000, 0x4800, 0x8800, 0x12000};
+  for (int order = 1; order <= kLastOrder; ++order) {
+    int size = -1;
+    EXPECT_EQ(zulgWHTGetBufferSize_32f(order, &size), ZULG_OK);
+    EXPECT_EQ(size, single[order - 1]);
+    EXPECT_EQ(zulgWHTGetBufferSize_64f(order, &size), ZULG_OK);
+    EXPECT_EQ(size, twice[order - 1]);
+  }
+  for (const int order : {0, 14, -1, 1 << 30, INT_MAX, INT_MIN}) {
+    int size = -1;
+    EXPECT_EQ(zulgWHTGetBufferSize_32f(order, &size), ZULG_ERR_SIZE);
+    EXPECT_EQ(zulgWHTGetBufferSize_64f(order, &size), ZULG_ERR_SIZE);
+    EXPECT_EQ(size, -1);
+  }
+}
+
+// Half of them are subtractions; besides there is one product a sample.
+TEST(WhtCounts, AreOneAdditionASampleAndStage) {
+  for (const gen::Kernel& kernel : wht::kernels()) {
+    const gen::Graph graph = kernel.graph();
+    const std::vector<bool> live = graph.live_nodes();
+    std::map<gen::Op, int> lanes;
+    for (gen::NodeId id = 0; id < graph.size(); ++id) {
+      if (live[id]) lanes[graph[id].op] += graph[id].lane_count;
+    }
+    const int stages = std::countr_zero(static_cast<unsigned>(kernel.length));
+    const int additions = stages * kernel.length;
+    EXPECT_EQ(gen::count_operations(graph), (gen::Counts{additions, 0})) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kAdd], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kSub], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kScale], kernel.length) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kFlipSigns], 0) << kernel.name;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,166 @@
+// The data flow of the kernels and of their passes.
+#include "gen/expr.h"
+#include "networks/walsh_hadamard.h"
+#include "wht/wht.h"
+
+namespace wht {
+namespace {
+
+using gen::Expr;
+using gen::Graph;
+using gen::Lane;
+using gen::Precision;
+using networks::walsh_hadamard;
+using Vectors = std::vector<Expr>;
+
+// Samples in a vector; the low log2(lanes) bits of an index tell the lane.
+int lanes_of(Precision precision) { return precision == Precision::kSingle ? 4 : 2; }
+
+// Whether an order is too short for vectors.
+bool is_scalar(Precision precision, int order) {
+  return order <= (precision == Precision::kSingle ? 3 : 2);
+}
+
+// Element `first` of the source and the ones behind it, up to half a vector, as lanes.
+void append_half(Graph& graph, int first, std::vector<Lane>& picks) {
+  const int half = lanes_of(graph.sample_precision()) / 2;
+  for (int i = 0; i < half; ++i) picks.push_back({graph.input(first + i).node, 0});
+}
+
+// Two halves of the source, side by side.
+gen::Value halves(Graph& graph, int low, int high) {
+  std::vector<Lane> picks;
+  append_half(graph, low, picks);
+  append_half(graph, high, picks);
+  return graph.lanes(picks);
+}
+
+// As many vectors as one has lanes, transposed: vector c holds lane c of all.
+Vectors transposed(Graph& graph, const Vectors& vectors) {
+  Vectors result;
+  for (int c = 0; c < static_cast<int>(vectors.size()); ++c) {
+    std::vector<Lane> picks;
+    for (const Expr& vector : vectors) picks.push_back({vector.value.node, c});
+    result.push_back({&graph, graph.lanes(picks)});
+  }
+  return result;
+}
+
+// The same out of the source, from element `first` on. Four lanes take two steps, whose first,
+// which moves halves, is the loads'.
+Vectors load_transposed(Graph& graph, int first) {
+  if (graph.sample_precision() == Precision::kDouble) {
+    return {{&graph, halves(graph, first, first + 2)},
+            {&graph, halves(graph, first + 1, first + 3)}};
+  }
+  Vectors result;
+  for (const int half : {0, 2}) {
+    const gen::Value upper = halves(graph, first + half, first + 4 + half);
+    const gen::Value lower = halves(graph, first + 8 + half, first + 12 + half);
+    for (const int lane : {0, 1}) {
+      result.push_back({&graph, graph.lanes({{upper.node, lane},
+                                             {upper.node, lane + 2},
+                                             {lower.node, lane},
+                                             {lower.node, lane + 2}})});
+    }
+  }
+  return result;
+}
+
+// All stages over the 2^order samples of the source from `first` on. The stages of the low bits
+// pair lanes: they run on groups of vectors that are transposed for them.
+Vectors transform_block(Graph& graph, int first, int order) {
+  const int lanes = lanes_of(graph.sample_precision());
+  Vectors vectors;
+  graph.begin_stage({"a", "stages within vectors, which are transposed for them"});
+  for (int group = 0; group < 1 << order; group += lanes * lanes) {
+    const Vectors columns = walsh_hadamard(load_transposed(graph, first + group));
+    for (const Expr& vector : transposed(graph, columns)) vectors.push_back(vector);
+  }
+  graph.begin_stage({"b", "stages between vectors"});
+  return walsh_hadamard(vectors);
+}
+
+// Stages between the rows of a matrix that `area` holds row after row.
+void transform_columns(Vectors& area, int begin, int rows, int vectors_in_row) {
+  for (int column = 0; column < vectors_in_row; ++column) {
+    Vectors vectors;
+    for (int r = 0; r < rows; ++r) vectors.push_back(area[begin + r * vectors_in_row + column]);
+    vectors = walsh_hadamard(vectors);
+    for (int r = 0; r < rows; ++r) area[begin + r * vectors_in_row + column] = vectors[r];
+  }
+}
+
+void store(Graph& graph, const Vectors& vectors) {
+  int element = 0;
+  for (const Expr& vector : vectors) {
+    const int lanes = graph[vector.value.node].lane_count;
+    for (int lane = 0; lane < lanes; ++lane) graph.output(element++, vector.value, lane);
+  }
+}
+
+void store_scaled(Graph& graph, Vectors vectors) {
+  graph.begin_stage({"s", "scaled"});
+  for (Expr& vector : vectors) vector.value = graph.scale(vector.value);
+  store(graph, vectors);
+}
+
+Graph scalar_graph(Precision precision, int order) {
+  Graph graph(precision);
+  Vectors samples;
+  for (int i = 0; i < 1 << order; ++i) samples.push_back({&graph, graph.input(i)});
+  graph.begin_stage({"a", "all stages"});
+  store_scaled(graph, walsh_hadamard(samples));
+  return graph;
+}
+
+Graph long_graph(Precision precision, const Plan& plan) {
+  Graph graph(precision);
+  const int lanes = lanes_of(precision);
+  Vectors area;
+  for (int first = 0; first < plan.length(); first += plan.block()) {
+    for (const Expr& vector : transform_block(graph, first, plan.row_order)) area.push_back(vector);
+  }
+  for (int first = 0; plan.segment_rows && first < plan.length(); first += plan.segment()) {
+    transform_columns(area, first / lanes, plan.segment_rows, plan.block() / lanes);
+  }
+  transform_columns(area, 0, plan.rows, plan.columns() / lanes);
+  store_scaled(graph, area);
+  return graph;
+}
+
+}  // namespace
+
+Graph row_graph(Precision precision, int row_order) {
+  Graph graph(precision);
+  store(graph, transform_block(graph, 0, row_order));
+  return graph;
+}
+
+Graph column_graph(Precision precision, int rows, bool is_scaled) {
+  Graph graph(precision);
+  const int lanes = lanes_of(precision);
+  Vectors vectors;
+  for (int r = 0; r < rows; ++r) {
+    std::vector<Lane> picks;
+    for (int i = 0; i < lanes; ++i) picks.push_back({graph.input(r * lanes + i).node, 0});
+    vectors.push_back({&graph, graph.lanes(picks)});
+  }
+  graph.begin_stage({"b", "stages between rows"});
+  vectors = walsh_hadamard(vectors);
+  is_scaled ? store_scaled(graph, vectors) : store(graph, vectors);
+  return graph;
+}
+
+Graph kernel_graph(Precision precision, int order) {
+  if (order > kLastShortOrder) {
+    const bool single = precision == Precision::kSingle;
+    return long_graph(precision, single ? plan_of<float>(order) : plan_of<double>(order));
+  }
+  if (is_scalar(precision, order)) return scalar_graph(precision, order);
+  Graph graph(precision);
+  store_scaled(graph, transform_block(graph, 0, order));
+  return graph;
+}
+
+}  // namespace wht

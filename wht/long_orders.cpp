@@ -1,0 +1,58 @@
+// The kernels of orders 8 to 13.
+#include "frame/kernel.h"
+#include "wht_bodies.h"
+#include "zulcore.h"
+
+namespace zulgen {
+namespace {
+
+// 1 / sqrt(2^order), rounded as the quotient of 1 by the rounded root is: powers of two round
+// nothing.
+constexpr double one_over_sqrt(int order) {
+  constexpr double kSqrt2 = 1.4142135623730951;
+  return (order % 2 == 0 ? 1 : 1 / kSqrt2) / (1 << order / 2);
+}
+
+template <class T, int order, class Access>
+ZULGEN_INLINE zulgResult transform(const T* source, T* destination, zulgScaleFlag flag,
+                                   void* work) {
+  constexpr T kByN = T(1) / (1 << order), kBySqrtN = static_cast<T>(one_over_sqrt(order));
+  T factor;
+  const zulgResult result = check_arguments(source, destination, flag, kByN, kBySqrtN, factor);
+  if (result != ZULG_OK) return result;
+  void* const buffer = work != nullptr ? work : zulMalloc(wht::work_bytes<T>(order));
+  run_passes<T, wht::plan_of<T>(order), Access>(source, destination, all(factor),
+                                                static_cast<T*>(buffer));
+  if (work == nullptr) zulFree(buffer);
+  return ZULG_OK;
+}
+
+}  // namespace
+
+#define ZULGEN_WHT(order, type)                                                            \
+  ZULGEN_TWIN zulgResult owngWHT_##order##_##type##_unaligned(                             \
+      const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
+    return transform<zulg##type, order, Unaligned>(source, destination, flag, work);       \
+  }                                                                                        \
+  ZULGEN_EXPORT zulgResult zulgWHT_##order##_##type(                                       \
+      const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
+    if (!is_aligned(source, destination, &source)) {                                       \
+      return owngWHT_##order##_##type##_unaligned(source, destination, flag, work);        \
+    }                                                                                      \
+    return transform<zulg##type, order, Aligned>(source, destination, flag, work);         \
+  }
+
+ZULGEN_WHT(8, 32f)
+ZULGEN_WHT(9, 32f)
+ZULGEN_WHT(10, 32f)
+ZULGEN_WHT(11, 32f)
+ZULGEN_WHT(12, 32f)
+ZULGEN_WHT(13, 32f)
+ZULGEN_WHT(8, 64f)
+ZULGEN_WHT(9, 64f)
+ZULGEN_WHT(10, 64f)
+ZULGEN_WHT(11, 64f)
+ZULGEN_WHT(12, 64f)
+ZULGEN_WHT(13, 64f)
+
+}  // namespace zulgen
