@@ -8,7 +8,7 @@ mkdir -p "$other"
 
 # It stays in the build folder, so that only what changes is compiled again.
 cmake -S "$source" -B "$other" -G Ninja -DCMAKE_BUILD_TYPE=Release -DZULGEN_TESTS=OFF \
-  -DZULGEN_BENCH=OFF -DZULGEN_EXAMPLES=OFF \
+  -DZULGEN_BENCH=OFF -DZULGEN_EXAMPLES=OFF -DZULGEN_DOCS=OFF \
   -DZULGEN_GENERATOR="$build/bin/zulgen-generate" -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" \
   >"$other/log"
 cmake --build "$other" >"$other/log" 2>&1 || { tail -30 "$other/log"; exit 1; }
@@ -19,5 +19,5 @@ cmake --build "$other" >"$other/log" 2>&1 || { tail -30 "$other/log"; exit 1; }
 "$build/bin/kernel_digests" "$build/lib/libzulgens8.so.6.1" >"$other/ours"
 "$build/bin/kernel_digests" "$other/lib/libzulgens8.so.6.1" >"$other/theirs"
 diff "$other/ours" "$other/theirs" >"$other/difference" || head -20 "$other/difference"
-echo "$(sort -uk2 "$other/ours" | wc -l) digests of $(wc -l <"$other/ours") kernels"
+echo "$(wc -l <"$other/ours") digests"
 [ -s "$other/ours" ] && [ ! -s "$other/difference" ]

@@ -9,7 +9,7 @@ trap 'rm -r "$work"' EXIT
 mkdir "$work/sources"
 tar -C "$source" --exclude=./build --exclude=./.git -cf - . | tar -C "$work/sources" -xf -
 cmake -S "$work/sources" -B "$work/built" -G Ninja -DCMAKE_BUILD_TYPE=Release -DZULGEN_TESTS=OFF \
-  -DZULGEN_BENCH=OFF -DZULGEN_EXAMPLES=OFF -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" \
+  -DZULGEN_BENCH=OFF -DZULGEN_EXAMPLES=OFF -DZULGEN_DOCS=OFF -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" \
   >"$work/log"
 cmake --build "$work/built" >"$work/log" 2>&1 || { tail -30 "$work/log"; exit 1; }
 diff -r "$build/generated" "$work/built/generated"
