@@ -19,14 +19,8 @@ target_link_libraries(codegen PUBLIC zulgen_program)
 # Its assertions are cheap, and stay.
 target_compile_options(codegen PRIVATE -UNDEBUG)
 
-set(ZULGEN_GENERATOR "" CACHE FILEPATH "A generator that is built already, to be used instead")
-if(ZULGEN_GENERATOR)
-  add_executable(zulgen-generate IMPORTED)
-  set_target_properties(zulgen-generate PROPERTIES IMPORTED_LOCATION ${ZULGEN_GENERATOR})
-else()
-  add_executable(zulgen-generate gen/main.cpp)
-  target_link_libraries(zulgen-generate PRIVATE codegen)
-endif()
+add_executable(zulgen-generate gen/main.cpp)
+target_link_libraries(zulgen-generate PRIVATE codegen)
 
 # The same code for 32-bit programs that ask what the library holds: the tests, the benchmark.
 add_library(codegen32 STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})

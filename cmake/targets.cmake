@@ -3,7 +3,7 @@
 
 add_library(zulgen_warnings INTERFACE)
 # g++ 12 sees overlaps in every concatenation of strings.
-target_compile_options(zulgen_warnings INTERFACE -Wall -Wextra -Wno-restrict)
+target_compile_options(zulgen_warnings INTERFACE -Wall -Wextra $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
 # Programs, and what is linked into programs alone.
 option(ZULGEN_SANITIZE "Watch addresses and undefined behaviour in all code but the kernels" OFF)

@@ -51,4 +51,4 @@ done
 # A program that names its kernel takes that one along; the archives also make a library.
 [ "$(nm "$work/archives" | grep -c ' T zulgDFT')" -eq 1 ] || fail "kernels that nobody calls"
 "$cc" -m32 -shared -Wl,-z,text,-z,defs,--whole-archive "$prefix/lib/libzulgens8.a" \
-  -Wl,--no-whole-archive "$prefix/lib/libzulcore.a" -o "$work/library.so"
+  -Wl,--no-whole-archive "$prefix/lib/libzulcore.a" -lm -o "$work/library.so"

@@ -21,8 +21,7 @@ ZULGEN_INLINE zulgResult transform(const T* source, T* destination, zulgScaleFla
   const zulgResult result = check_arguments(source, destination, flag, kByN, kBySqrtN, factor);
   if (result != ZULG_OK) return result;
   void* const buffer = work != nullptr ? work : zulMalloc(wht::work_bytes<T>(order));
-  run_passes<T, wht::plan_of<T>(order), Access>(source, destination, all(factor),
-                                                static_cast<T*>(buffer));
+  run_passes<T, order, Access>(source, destination, all(factor), static_cast<T*>(buffer));
   if (work == nullptr) zulFree(buffer);
   return ZULG_OK;
 }

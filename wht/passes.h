@@ -65,8 +65,9 @@ ZULGEN_INLINE void column_pass(const T* x, T* y, VectorOf<T> s) {
 // A transform by its plan. `Access` is how source and destination are reached; the work buffer is
 // aligned always. The source is read by the row passes alone and the destination written by the
 // last pass alone, so the two may be one array.
-template <class T, const wht::Plan& plan, class Access>
+template <class T, int order, class Access>
 ZULGEN_INLINE void run_passes(const T* source, T* destination, VectorOf<T> s, T* work) {
+  constexpr wht::Plan plan = wht::plan_of<T>(order);
   if constexpr (plan.segment_rows == 0) {
     row_pass<T, plan.row_order, Access>(source, work, plan.length());
   } else {
