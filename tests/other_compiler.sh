@@ -8,8 +8,8 @@ mkdir -p "$other"
 
 # It stays in the build folder, so that only what changes is compiled again.
 cmake -S "$source" -B "$other" -G Ninja -DCMAKE_BUILD_TYPE=Release -DZULGEN_TESTS=OFF \
-  -DZULGEN_BENCH=OFF -DZULGEN_EXAMPLES=OFF -DZULGEN_DOCS=OFF -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" \
-  >"$other/log"
+  -DZULGEN_BENCH=OFF -DZULGEN_EXAMPLES=OFF -DZULGEN_DOCS=OFF \
+  -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" >"$other/log"
 cmake --build "$other" >"$other/log" 2>&1 || { tail -30 "$other/log"; exit 1; }
 ! cmp -s "$build/lib/libzulgens8.so.6.1" "$other/lib/libzulgens8.so.6.1" || {
   echo "both libraries are the same file"
