@@ -148,10 +148,11 @@ bool is_power(int n) { return n > 0 && (n & (n - 1)) == 0; }
 
 // What sizing accepts: powers of two, and these plus one; where sums wrap, the sign decides.
 bool is_accepted(int n) {
+  if (n < 2) return false;
   const int last = kSingle ? 1 << 26 : 1 << 25, wrapped = kSingle ? 1 << 30 : 1 << 29;
   const int power = is_power(n) ? n : n - 1;
   if (!is_power(power) || (power > last && power < wrapped)) return false;
-  return n == power ? n >= 2 : n >= (kSingle ? 33 : 9);
+  return n == power || n >= (kSingle ? 33 : 9);
 }
 
 TEST(Sizes, AcceptPowersOfTwo) {
