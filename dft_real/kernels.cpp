@@ -1,7 +1,4 @@
 // One core a length, type and direction; the layouts only renumber its elements.
-#include <memory>
-#include <optional>
-
 #include "dft_real/dft_real.h"
 #include "dft_real/layouts.h"
 #include "dft_real/sign_flips.h"
@@ -49,6 +46,11 @@ Graph inverse_graph(const Row& row, Precision precision) {
   graph.begin_stage({"s", "scaled"});
   for (int i = 0; i < n; ++i) graph.output(i, graph.scale(samples[i].value));
   return gen::fold_all_products(graph);
+}
+
+Graph core(const Row& row, bool forward, Precision precision) {
+  const Graph graph = forward ? forward_graph(row, precision) : inverse_graph(row, precision);
+  return precision == Precision::kSingle ? gen::widen_products(graph) : graph;
 }
 
 Graph in_layout(const Graph& core, bool forward, Layout layout, int length) {
@@ -99,16 +101,10 @@ std::vector<Kernel> kernels() {
   for (const Precision precision : {Precision::kSingle, Precision::kDouble}) {
     for (const Row& row : kRows) {
       for (const bool forward : {true, false}) {
-        const auto core = std::make_shared<std::optional<Graph>>();
         for (const Layout layout : kLayouts) {
           Kernel kernel = describe(row, forward, layout, precision);
           kernel.graph = [=] {
-            if (!*core) {
-              const Graph graph =
-                  forward ? forward_graph(row, precision) : inverse_graph(row, precision);
-              *core = precision == Precision::kSingle ? gen::widen_products(graph) : graph;
-            }
-            return in_layout(**core, forward, layout, row.length);
+            return in_layout(core(row, forward, precision), forward, layout, row.length);
           };
           result.push_back(std::move(kernel));
         }
