@@ -1,12 +1,14 @@
 // Time in core cycles, with a watch on who else uses the core.
 //
 // A virtual machine has no hardware counters, its clock moves, and a neighbour may load the other
-// half of the core. So every sample stands between two canaries: a chain of dependent
-// multiplications, whose length in cycles is known and gives the clock, and a run of independent
-// additions, which takes longer if somebody else uses the ports.
+// half of the core. So every sample stands between canaries: a chain of dependent multiplications,
+// whose length in cycles is known and gives the clock; a run of independent additions between empty
+// instructions, which takes longer if somebody else uses the ports or the front end; and a run of
+// loads and stores, which tells of phases in which memory operations take longer.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace bench {
@@ -15,19 +17,28 @@ class Clock {
  public:
   Clock();
 
-  // Runs `work` once; the core cycles that it took, or a negative number if a canary was disturbed.
-  double sample(const std::function<void()>& work) const;
+  // Runs `work` once; the core cycles that it took, or nothing if a canary was disturbed.
+  std::optional<double> sample(const std::function<void()>& work) const;
 
  private:
-  double empty_ticks_;  // what reading the time costs
-  double quiet_ratio_;  // port canary over chain canary on a core of one's own
+  struct Canaries {
+    double chain, ports, memory;
+  };
+  static Canaries canaries();
+
+  double empty_ticks_;                 // what reading the time costs
+  double quiet_ports_, quiet_memory_;  // canaries over the chain on a core of one's own
 };
 
-// The contenders' cycles a call. Each is a function that makes the given number of calls; all of
-// them take turns, a sample of about 10 microseconds each, and the figure is the median of the
-// lowest cluster of undisturbed samples; NaN if there are too few.
+// A function that makes the given number of calls of what is measured.
 using Contender = std::function<void(int calls)>;
-std::vector<double> cycles_per_call(const Clock& clock, const std::vector<Contender>& contenders,
-                                    int rounds);
+
+// The contenders' cycles a call. They take turns, a sample of about 10 microseconds each, and the
+// figure of one pass is the median of the lowest cluster of undisturbed samples. There are as many
+// passes as it takes until the two lowest agree within 3 %, of which the lower is the result;
+// nothing if that takes too long.
+std::vector<std::optional<double>> cycles_per_call(const Clock& clock,
+                                                   const std::vector<Contender>& contenders,
+                                                   int rounds);
 
 }  // namespace bench

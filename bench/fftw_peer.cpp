@@ -1,4 +1,4 @@
-#include "bench/fftw_peer.h"
+#include "bench/peers.h"
 
 #include <dlfcn.h>
 #include <fftw3.h>
@@ -25,18 +25,16 @@ struct Api {
   void (*execute)(Plan);
   void (*forget_wisdom)();
 
-  // The plans that may carry out the kernel's transform, up to the order of its real values.
-  std::vector<Plan> plans(const gen::Kernel& kernel, void* source, void* destination) const {
+  // The plans that may carry out the subject's transform.
+  std::vector<Plan> plans(const Subject& subject, void* source, void* destination) const {
     const auto complex = [](void* x) { return static_cast<Complex*>(x); };
     const auto real = [](void* x) { return static_cast<Real*>(x); };
-    const auto is = [&kernel](const char* part) {
-      return kernel.name.find(part) != std::string::npos;
-    };
-    const int n = kernel.length;
+    const int n = subject.length;
+    const bool forward = subject.direction == "forward";
     const auto plan_r2r = [&](fftw_r2r_kind kind, unsigned flags) {
       return r2r(n, real(source), real(destination), kind, FFTW_PATIENT | flags);
     };
-    if (is("WHT")) {
+    if (subject.transform == "walsh") {
       // 2 by 2 by ... by 2 points, by either of the two names of that butterfly.
       const int rank = std::countr_zero(static_cast<unsigned>(n));
       const std::vector<int> sizes(rank, 2);
@@ -48,20 +46,22 @@ struct Api {
       }
       return result;
     }
-    if (is("Hartley")) return {plan_r2r(FFTW_DHT, 0)};
-    if (is("_RTo")) {
+    if (subject.transform == "hartley") return {plan_r2r(FFTW_DHT, 0)};
+    if (subject.transform == "dct4") return {plan_r2r(FFTW_REDFT11, 0)};
+    if (subject.transform == "complex") {
+      return {dft(n, complex(source), complex(destination), forward ? FFTW_FORWARD : FFTW_BACKWARD,
+                  FFTW_PATIENT)};
+    }
+    if (subject.transform != "real") return {};
+    if (forward) {
       return {r2c(n, real(source), complex(destination), FFTW_PATIENT), plan_r2r(FFTW_R2HC, 0)};
     }
-    if (is("ToR_")) {
-      std::vector<Plan> result;
-      for (const unsigned flag : {FFTW_PRESERVE_INPUT, FFTW_DESTROY_INPUT}) {
-        result.push_back(c2r(n, complex(source), real(destination), FFTW_PATIENT | flag));
-        result.push_back(plan_r2r(FFTW_HC2R, flag));
-      }
-      return result;
+    std::vector<Plan> result;
+    for (const unsigned flag : {FFTW_PRESERVE_INPUT, FFTW_DESTROY_INPUT}) {
+      result.push_back(c2r(n, complex(source), real(destination), FFTW_PATIENT | flag));
+      result.push_back(plan_r2r(FFTW_HC2R, flag));
     }
-    const int sign = kernel.scale_rule == gen::ScaleRule::kForward ? FFTW_FORWARD : FFTW_BACKWARD;
-    return {dft(n, complex(source), complex(destination), sign, FFTW_PATIENT)};
+    return result;
   }
 };
 
@@ -74,11 +74,11 @@ void clear_upper_halves() {
 }
 
 template <class Api>
-std::vector<Contender> contenders(const Api& fftw, const gen::Kernel& kernel, void* source,
-                                  void* destination, int count) {
+std::vector<Contender> contenders(const Api& fftw, const Subject& subject, Arrays& arrays,
+                                  int count) {
   std::vector<Contender> result;
   for (int i = 0; i < count; ++i) {
-    for (const typename Api::Plan plan : fftw.plans(kernel, source, destination)) {
+    for (const auto plan : fftw.plans(subject, arrays.source(), arrays.destination())) {
       if (plan == nullptr) continue;
       result.push_back([plan, execute = fftw.execute](int calls) {
         for (int call = 0; call < calls; ++call) execute(plan);
@@ -90,21 +90,22 @@ std::vector<Contender> contenders(const Api& fftw, const gen::Kernel& kernel, vo
   return result;
 }
 
-class Peer : public FftwPeer {
+class Fftw : public Peer {
  public:
-  Peer(const Single& single_precision, const Double& double_precision)
-      : single_(single_precision), double_(double_precision) {}
+  Fftw(std::string name, const Single& single, const Double& full, int plans)
+      : name_(std::move(name)), single_(single), double_(full), plans_(plans) {}
 
-  std::vector<Contender> plans(const gen::Kernel& kernel, void* source, void* destination,
-                               int count) override {
-    return kernel.precision == gen::Precision::kSingle
-               ? contenders(single_, kernel, source, destination, count)
-               : contenders(double_, kernel, source, destination, count);
+  std::string name() const override { return name_; }
+  std::vector<Contender> ways(const Subject& subject, Arrays& arrays) override {
+    return subject.is_single() ? contenders(single_, subject, arrays, plans_)
+                               : contenders(double_, subject, arrays, plans_);
   }
 
  private:
+  const std::string name_;
   const Single single_;
   const Double double_;
+  const int plans_;
 };
 
 template <class Api>
@@ -127,23 +128,23 @@ bool load(const char* file, const std::string& prefix, Api& api) {
 
 }  // namespace
 
-std::unique_ptr<FftwPeer> FftwPeer::sse2() {
+std::unique_ptr<Peer> fftw_held_to_sse2(int plans) {
   const Single single = {fftwf_plan_dft_1d,  fftwf_plan_dft_r2c_1d, fftwf_plan_dft_c2r_1d,
                          fftwf_plan_r2r_1d,  fftwf_plan_r2r,        fftwf_execute,
                          fftwf_forget_wisdom};
   const Double full = {fftw_plan_dft_1d,  fftw_plan_dft_r2c_1d, fftw_plan_dft_c2r_1d,
                        fftw_plan_r2r_1d,  fftw_plan_r2r,        fftw_execute,
                        fftw_forget_wisdom};
-  return std::make_unique<Peer>(single, full);
+  return std::make_unique<Fftw>("fftw_sse2", single, full, plans);
 }
 
-std::unique_ptr<FftwPeer> FftwPeer::installed() {
+std::unique_ptr<Peer> fftw_installed(int plans) {
   Single single;
   Double full;
   if (!load("libfftw3f.so.3", "fftwf_", single) || !load("libfftw3.so.3", "fftw_", full)) {
     return nullptr;
   }
-  return std::make_unique<Peer>(single, full);
+  return std::make_unique<Fftw>("fftw", single, full, plans);
 }
 
 }  // namespace bench

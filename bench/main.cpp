@@ -1,34 +1,31 @@
-// Times the kernels of the manifest, beside FFTW where it is there.
-#include <dlfcn.h>
-
+// Times the library's functions beside those of other libraries.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
-#include <memory>
-#include <sstream>
+#include <map>
 #include <string>
 
-#include "bench/arrays.h"
-#include "bench/clock.h"
-#include "bench/fftw_peer.h"
-#include "gen/cost.h"
-#include "gen/manifest.h"
+#include "bench/peers.h"
+#include "bench/subject.h"
 
 namespace {
 
 constexpr const char* kUsage =
-    "usage: zulgen-bench [--filter TEXT[,TEXT...]] [--plans N] [--rounds N] [--csv FILE]\n"
-    "  --filter TEXT  kernels whose name holds one of the texts (default: forward ones)\n"
-    "  --plans N      FFTW plans to take the best of (default 4); 0 times our kernels alone\n"
-    "  --rounds N     samples a contender (default 300)\n"
+    "usage: zulgen-bench [--filter TEXT[,TEXT...]] [--plans N] [--rounds N] [--offset N]\n"
+    "                    [--csv FILE]\n"
+    "  --filter TEXT  functions whose name holds one of the texts (default: Fwd_CToC); with _N_\n"
+    "                 for a length, those of that length\n"
+    "  --plans N      FFTW plans to take the best of (default 4); 0 times our functions alone\n"
+    "  --rounds N     samples of each in a pass (default 150)\n"
+    "  --offset N     our arrays begin N elements behind a cache line (default 0)\n"
     "  --csv FILE     the figures as comma-separated values, too\n";
 
 struct Options {
-  std::string filter = "Fwd";
+  std::string filter = "Fwd_CToC";
   int plans = 4;
-  int rounds = 300;
+  int rounds = 150;
+  int offset = 0;
   std::string csv;
 };
 
@@ -36,92 +33,139 @@ struct Options {
 bool passes(const std::string& name, const std::string& filter) {
   std::istringstream texts(filter);
   for (std::string text; std::getline(texts, text, ',');) {
-    if (name.find(text) != std::string::npos) return true;
+    if ((name + "_").find(text) != std::string::npos) return true;
   }
   return false;
 }
 
-// The least of some figures; NaN if there is none.
-double best(const std::vector<double>& cycles, std::size_t first, std::size_t last) {
-  double result = std::numeric_limits<double>::quiet_NaN();
-  for (std::size_t i = first; i < last; ++i) result = std::fmin(result, cycles[i]);
+using Figure = std::optional<double>;  // cycles a call
+
+// The least of some figures.
+Figure best(const Figure* begin, const Figure* end) {
+  Figure result;
+  for (const Figure* figure = begin; figure != end; ++figure) {
+    if (*figure && (!result || **figure < *result)) result = *figure;
+  }
   return result;
 }
 
-struct Figures {
-  double ours, bound, sse2, installed;
+// One contender of each level, then the best of each peer.
+std::vector<Figure> measure(const bench::Clock& clock, const bench::Subject& subject,
+                            const Options& options, const std::vector<bench::Level>& levels,
+                            const std::vector<std::unique_ptr<bench::Peer>>& peers) {
+  static bench::Arrays arrays;
+  std::vector<bench::Contender> contenders;
+  for (const bench::Level& level : levels) {
+    contenders.push_back(calls_of(subject, level, arrays, options.offset));
+  }
+  std::vector<std::size_t> ends = {contenders.size()};
+  for (const auto& peer : peers) {
+    for (bench::Contender& way : peer->ways(subject, arrays)) contenders.push_back(std::move(way));
+    ends.push_back(contenders.size());
+  }
+  // A plan that destroys its input is given back what it left there, again and again. Only zeros
+  // stay what they are; anything else grows to infinities, which cost x87 code dearly.
+  const bool plans_may_destroy = subject.transform == "real" && subject.direction == "inverse";
+  plans_may_destroy ? arrays.clear() : arrays.fill(subject);
+  const std::vector<Figure> cycles = cycles_per_call(clock, contenders, options.rounds);
+  std::vector<Figure> figures(cycles.begin(), cycles.begin() + levels.size());
+  for (std::size_t i = 0; i < peers.size(); ++i) {
+    figures.push_back(best(cycles.data() + ends[i], cycles.data() + ends[i + 1]));
+  }
+  return figures;
+}
+
+// Of the ratios of one column to another over all subjects.
+struct Summary {
+  double log_sum = 0, lowest = 0;
+  int count = 0;
+  std::string lowest_name;
+
+  void add(const std::string& name, double ratio) {
+    log_sum += std::log(ratio);
+    if (count++ == 0 || ratio < lowest) {
+      lowest = ratio;
+      lowest_name = name;
+    }
+  }
 };
 
-Figures measure(const bench::Clock& clock, const gen::Kernel& kernel, const Options& options,
-                bench::FftwPeer* sse2, bench::FftwPeer* installed) {
-  static bench::Arrays arrays;
-  std::vector<bench::Contender> contenders = {
-      bench::calls_of(dlsym(RTLD_DEFAULT, kernel.name.c_str()), arrays)};
-  const auto add_plans = [&](bench::FftwPeer* peer) {
-    if (peer == nullptr) return;
-    for (auto& plan : peer->plans(kernel, arrays.source, arrays.destination, options.plans)) {
-      contenders.push_back(std::move(plan));
-    }
-  };
-  add_plans(sse2);
-  const std::size_t first_installed = contenders.size();
-  add_plans(installed);
-  // A plan that destroys its input is given back what it left there, again and again. Only zeros
-  // stay what they are; anything else grows to infinities, which cost FFTW's x87 code dearly.
-  const bool plans_may_destroy = kernel.name.find("ToR_") != std::string::npos;
-  plans_may_destroy ? arrays.clear() : arrays.fill(kernel.precision);
-  const std::vector<double> cycles = cycles_per_call(clock, contenders, options.rounds);
-  const gen::Graph code = gen::lowered(kernel.graph(), kernel.source_elements, kernel.loads_halves);
-  return {cycles[0], gen::port_bound(gen::count_vector_operations(code)),
-          best(cycles, 1, first_installed), best(cycles, first_installed, cycles.size())};
+std::string text_of(const Figure& figure) {
+  char text[32];
+  if (!figure) return "";
+  std::snprintf(text, sizeof text, "%.1f", *figure);
+  return text;
 }
 
 int run(const Options& options) {
-  const bench::Clock clock;
-  const std::unique_ptr<bench::FftwPeer> sse2 =
-      options.plans > 0 ? bench::FftwPeer::sse2() : nullptr;
-  const std::unique_ptr<bench::FftwPeer> installed =
-      options.plans > 0 ? bench::FftwPeer::installed() : nullptr;
-  if (options.plans > 0 && !sse2) {
-    std::puts("built without FFTW: our kernels alone (the README tells how to get it)");
+  std::vector<bench::Subject> subjects = bench::subjects();
+  std::erase_if(subjects,
+                [&](const auto& subject) { return !passes(subject.name, options.filter); });
+  if (subjects.empty()) {
+    std::fprintf(stderr, "zulgen-bench: nothing is called %s\n", options.filter.c_str());
+    return 2;
   }
+  const bench::Clock clock;
+  const std::vector<bench::Level> levels = bench::levels();
+  std::vector<std::unique_ptr<bench::Peer>> peers;
+  if (options.plans > 0) {
+    peers.push_back(bench::fftw_held_to_sse2(options.plans));
+    peers.push_back(bench::fftw_installed(options.plans));
+    peers.push_back(bench::kissfft());
+    if (!peers[0]) std::puts("built without FFTW: the README tells how to get it");
+    std::erase(peers, nullptr);
+  }
+  std::vector<std::string> columns;
+  for (const bench::Level& level : levels) columns.push_back(level.name);
+  for (const auto& peer : peers) columns.push_back(peer->name());
+
   std::FILE* csv = options.csv.empty() ? nullptr : std::fopen(options.csv.c_str(), "w");
   if (!options.csv.empty() && csv == nullptr) {
     std::fprintf(stderr, "zulgen-bench: can't write %s\n", options.csv.c_str());
     return 1;
   }
-  if (csv)
-    std::fprintf(
-        csv, "kernel,length,cycles,fftw_sse2,ratio,fftw_installed,ratio_installed,port_bound\n");
   std::printf(
-      "core cycles a call; bound: what the arithmetic takes two ports; ratio: FFTW's over ours\n");
-  std::printf("%-28s %9s %9s %10s %7s %14s %7s\n", "kernel", "cycles", "bound", "FFTW SSE2",
-              "ratio", "FFTW installed", "ratio");
-  double log_sum = 0, lowest = std::numeric_limits<double>::infinity();
-  int count = 0;
-  std::string lowest_name;
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
-    if (!passes(kernel.name, options.filter)) continue;
-    const Figures f = measure(clock, kernel, options, sse2.get(), installed.get());
-    const double ratio = f.sse2 / f.ours;
-    std::printf("%-28s %9.1f %9.1f %10.1f %7.3f %14.1f %7.3f\n", kernel.name.c_str(), f.ours,
-                f.bound, f.sse2, ratio, f.installed, f.installed / f.ours);
-    std::fflush(stdout);
-    if (csv) {
-      std::fprintf(csv, "%s,%d,%.1f,%.1f,%.3f,%.1f,%.3f,%.1f\n", kernel.name.c_str(), kernel.length,
-                   f.ours, f.sse2, ratio, f.installed, f.installed / f.ours, f.bound);
+      "core cycles a call; bound: what the arithmetic of 128-bit code keeps its ports busy\n");
+  std::printf("%-28s %9s", "function", "bound");
+  if (csv) std::fprintf(csv, "function,length");
+  for (const std::string& column : columns) {
+    std::printf(" %11s", column.c_str());
+    if (csv) std::fprintf(csv, ",%s", column.c_str());
+  }
+  std::printf("\n");
+  if (csv) std::fprintf(csv, "\n");
+
+  std::map<std::pair<std::size_t, std::size_t>, Summary> summaries;  // by peer and level
+  int given_up = 0;
+  for (const bench::Subject& subject : subjects) {
+    const std::vector<Figure> figures = measure(clock, subject, options, levels, peers);
+    std::printf("%-28s %9.1f", subject.name.c_str(), subject.port_bound);
+    if (csv) std::fprintf(csv, "%s,%d", subject.name.c_str(), subject.length);
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+      const bool disturbed = i < levels.size() && !figures[i];
+      given_up += disturbed;
+      std::printf(" %11s", disturbed ? "disturbed" : text_of(figures[i]).c_str());
+      if (csv) std::fprintf(csv, ",%s", text_of(figures[i]).c_str());
     }
-    if (std::isnan(ratio)) continue;
-    log_sum += std::log(ratio);
-    ++count;
-    if (ratio < lowest) {
-      lowest = ratio;
-      lowest_name = kernel.name;
+    std::printf("\n");
+    std::fflush(stdout);
+    if (csv) std::fprintf(csv, "\n");
+    for (std::size_t level = 0; level < levels.size(); ++level) {
+      for (std::size_t peer = levels.size(); peer < figures.size(); ++peer) {
+        if (!figures[level] || !figures[peer]) continue;
+        summaries[{peer, level}].add(subject.name, *figures[peer] / *figures[level]);
+      }
     }
   }
-  if (count > 0) {
-    std::printf("ratio over %d kernels: geometric mean %.3f, lowest %.3f (%s)\n", count,
-                std::exp(log_sum / count), lowest, lowest_name.c_str());
+  for (const auto& [pair, summary] : summaries) {
+    std::printf("%s over %s, %d functions: geometric mean %.3f, least %.3f (%s)\n",
+                columns[pair.first].c_str(), columns[pair.second].c_str(), summary.count,
+                std::exp(summary.log_sum / summary.count), summary.lowest,
+                summary.lowest_name.c_str());
+  }
+  if (given_up > 0) {
+    std::printf("%d figures are missing: other work on this machine did not let two passes agree\n",
+                given_up);
   }
   if (csv) std::fclose(csv);
   return 0;
@@ -140,6 +184,8 @@ int main(int argc, char** argv) {
       options.plans = std::atoi(value);
     } else if (value != nullptr && option == "--rounds") {
       options.rounds = std::atoi(value);
+    } else if (value != nullptr && option == "--offset") {
+      options.offset = std::atoi(value);
     } else if (value != nullptr && option == "--csv") {
       options.csv = value;
     } else {
@@ -147,5 +193,10 @@ int main(int argc, char** argv) {
       return option == "--help" ? 0 : 2;
     }
   }
-  return run(options);
+  try {
+    return run(options);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "zulgen-bench: %s\n", error.what());
+    return 1;
+  }
 }

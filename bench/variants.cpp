@@ -4,27 +4,27 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
-#include "bench/arrays.h"
-#include "bench/clock.h"
-#include "gen/manifest.h"
+#include "bench/subject.h"
 
 int main(int argc, char** argv) {
-  void* library = argc == 4 ? dlopen(argv[1], RTLD_NOW) : nullptr;
+  void* const library = argc == 4 ? dlopen(argv[1], RTLD_NOW) : nullptr;
   if (library == nullptr) {
     std::fputs("usage: zulgen-variants FILE NAME COUNT\n", stderr);
     return 2;
   }
-  static bench::Arrays arrays;
+  bench::Subject subject;
   const std::string name = argv[2];
-  arrays.fill(name.find("_32f") != std::string::npos ? gen::Precision::kSingle
-                                                     : gen::Precision::kDouble);
+  subject.element_size = name.find("_32f") != std::string::npos ? 4 : 8;
+  bench::Arrays arrays;
+  arrays.fill(subject);
   std::vector<bench::Contender> contenders;
   for (int i = 0; i < std::atoi(argv[3]); ++i) {
-    contenders.push_back(
-        bench::calls_of(dlsym(library, (name + "_" + std::to_string(i)).c_str()), arrays));
+    subject.name = name + "_" + std::to_string(i);
+    contenders.push_back(calls_of(subject, {"variants", library}, arrays));
   }
   const bench::Clock clock;
-  for (double cycles : cycles_per_call(clock, contenders, 120)) std::printf("%.2f\n", cycles);
+  for (const auto& cycles : cycles_per_call(clock, contenders, 60)) {
+    cycles ? std::printf("%.2f\n", *cycles) : std::puts("-");
+  }
 }

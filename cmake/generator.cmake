@@ -2,6 +2,7 @@
 
 file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/gen/*.cpp
+  ${PROJECT_SOURCE_DIR}/generate/*.cpp
   ${PROJECT_SOURCE_DIR}/networks/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_real/*.cpp
@@ -11,7 +12,7 @@ list(APPEND ZULGEN_CODEGEN_SOURCES
   ${PROJECT_SOURCE_DIR}/wht/kernels.cpp
   ${PROJECT_SOURCE_DIR}/wht/graphs.cpp
   ${PROJECT_SOURCE_DIR}/wht/bodies.cpp)
-list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
+list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/generate/main.cpp)
 
 add_library(codegen STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})
 target_include_directories(codegen PUBLIC ${PROJECT_SOURCE_DIR})
@@ -19,43 +20,44 @@ target_link_libraries(codegen PUBLIC zulgen_program)
 # Its assertions are cheap, and stay.
 target_compile_options(codegen PRIVATE -UNDEBUG)
 
-add_executable(zulgen-generate gen/main.cpp)
+add_executable(zulgen-generate generate/main.cpp)
 target_link_libraries(zulgen-generate PRIVATE codegen)
-
-# The same code for 32-bit programs that ask what the library holds: the tests, the benchmark.
-add_library(codegen32 STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})
-target_include_directories(codegen32 PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(codegen32 PUBLIC zulgen_m32 zulgen_program)
 
 # The files that every family's kernels are spread over.
 set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12 dft_real_32f=16 dft_real_64f=16
   hartley_32f=4 hartley_64f=4 wht_32f=1 wht_64f=1)
 
-set(ZULGEN_GENERATED_DIR ${CMAKE_BINARY_DIR}/generated)
-file(MAKE_DIRECTORY ${ZULGEN_GENERATED_DIR})
-set(ZULGEN_EXPORTS ${ZULGEN_GENERATED_DIR}/zulgens8.map)
-set(ZULGEN_BODY_HEADERS
-  ${ZULGEN_GENERATED_DIR}/wht_bodies.h
-  ${ZULGEN_GENERATED_DIR}/dct4_32f.h
-  ${ZULGEN_GENERATED_DIR}/dct4_64f.h)
-set(ZULGEN_KERNEL_SOURCES)
-set(ZULGEN_DISPATCH_SOURCES)
-set(arguments --out ${ZULGEN_GENERATED_DIR})
-foreach(shards IN LISTS ZULGEN_SHARDS)
-  list(APPEND arguments --shards ${shards})
-  string(REGEX MATCH "^(.*)=(.*)$" match ${shards})
-  list(APPEND ZULGEN_DISPATCH_SOURCES ${ZULGEN_GENERATED_DIR}/${CMAKE_MATCH_1}.dispatch.cpp)
-  math(EXPR last "${CMAKE_MATCH_2} - 1")
-  foreach(shard RANGE ${last})
-    list(APPEND ZULGEN_KERNEL_SOURCES ${ZULGEN_GENERATED_DIR}/${CMAKE_MATCH_1}.${shard}.cpp)
+# zulgen_generate(target): the sources of a target's library, in ZULGEN_GENERATED_DIR_target. Sets
+# ZULGEN_KERNEL_SOURCES, ZULGEN_DISPATCH_SOURCES, ZULGEN_HEADERS and ZULGEN_EXPORTS. Only files that
+# change are written, so that a change in one family compiles that family alone.
+function(zulgen_generate target)
+  set(folder ${PROJECT_SOURCE_DIR}/targets/${target})
+  set(out ${CMAKE_BINARY_DIR}/generated/${target})
+  file(MAKE_DIRECTORY ${out})
+  set(kernels)
+  set(dispatch)
+  set(architecture_folder ${PROJECT_SOURCE_DIR}/targets/${ZULGEN_ARCHITECTURE_${target}})
+  set(arguments --target ${folder} --level-of ${architecture_folder} --out ${out})
+  foreach(shards IN LISTS ZULGEN_SHARDS)
+    list(APPEND arguments --shards ${shards})
+    string(REGEX MATCH "^(.*)=(.*)$" match ${shards})
+    list(APPEND dispatch ${out}/${CMAKE_MATCH_1}.dispatch.s)
+    math(EXPR last "${CMAKE_MATCH_2} - 1")
+    foreach(shard RANGE ${last})
+      list(APPEND kernels ${out}/${CMAKE_MATCH_1}.${shard}.cpp)
+    endforeach()
   endforeach()
-endforeach()
-
-# Only files that change are written, so that a change in one family compiles that family alone.
-add_custom_command(
-  OUTPUT ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_DISPATCH_SOURCES} ${ZULGEN_BODY_HEADERS}
-    ${ZULGEN_EXPORTS}
-  COMMAND zulgen-generate ${arguments}
-  DEPENDS zulgen-generate
-  COMMENT "Generating the kernels"
-  VERBATIM)
+  set(headers ${out}/wht_bodies.h ${out}/dct4_32f.h ${out}/dct4_64f.h)
+  file(GLOB tables CONFIGURE_DEPENDS ${folder}/*.txt ${folder}/*.in ${architecture_folder}/*.in)
+  add_custom_command(
+    OUTPUT ${kernels} ${dispatch} ${headers} ${out}/zulgens8.map ${out}/library.txt
+    COMMAND zulgen-generate ${arguments}
+    DEPENDS zulgen-generate ${tables}
+    COMMENT "Generating the kernels for ${target}"
+    VERBATIM)
+  set(ZULGEN_KERNEL_SOURCES ${kernels} PARENT_SCOPE)
+  set(ZULGEN_DISPATCH_SOURCES ${dispatch} PARENT_SCOPE)
+  set(ZULGEN_HEADERS ${headers} PARENT_SCOPE)
+  set(ZULGEN_EXPORTS ${out}/zulgens8.map PARENT_SCOPE)
+  set(ZULGEN_GENERATED_DIR_${target} ${out} PARENT_SCOPE)
+endfunction()

@@ -1,40 +1,65 @@
 # `cmake --install`: libraries, headers, a CMake package and pkg-config files. Nothing that is
 # installed knows where it is: the tree can be moved.
 
-# The host's own multiarch folder, which GNUInstallDirs may choose, is not the place of 32-bit code.
-set(CMAKE_INSTALL_LIBDIR lib CACHE STRING "Where libraries go, under the prefix")
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-install(TARGETS zulgens8 zulgens8_static zulcore zulcore_static EXPORT zulgenConfig)
+list(LENGTH ZULGEN_TARGETS count)
+if(count GREATER 1)
+  set(multiarch ON)
+else()
+  set(multiarch OFF)
+endif()
+option(ZULGEN_MULTIARCH
+  "Put libraries into lib/TRIPLET; off, as where there is one architecture, into lib" ${multiarch})
+
+set(package_dir lib/cmake/zulgen)
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/zulgen)
-install(EXPORT zulgenConfig NAMESPACE zulgen:: DESTINATION ${package_dir})
-# The targets bring -m32 along, so that it doesn't matter what a program is compiled for by default.
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/zulgenConfigVersion.cmake
-  COMPATIBILITY SameMinorVersion ARCH_INDEPENDENT)
-install(FILES ${PROJECT_BINARY_DIR}/zulgenConfigVersion.cmake DESTINATION ${package_dir})
-
-# zulgen_pkg_config(target description): a file for pkg-config, with paths relative to itself.
-function(zulgen_pkg_config target description)
-  set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-  file(RELATIVE_PATH prefix /${folder} /)
-  get_target_property(libraries ${target} ZULGEN_LIBRARIES)
+# zulgen_pkg_config(library architecture folder description): a file for pkg-config, with paths
+# relative to itself.
+function(zulgen_pkg_config library architecture folder description)
+  file(RELATIVE_PATH prefix /${folder}/pkgconfig /)
+  set(options)
+  if(architecture STREQUAL i386)
+    set(options "-m32 ")
+  endif()
   set(requires)
   set(libs)
-  foreach(library IN LISTS libraries)
-    if(TARGET ${library})
-      list(APPEND requires ${library})
-    elseif(library AND NOT library STREQUAL c)
-      list(APPEND libs -l${library})
-    endif()
-  endforeach()
-  list(JOIN requires " " requires)
-  list(JOIN libs " " libs)
-  configure_file(cmake/library.pc.in ${PROJECT_BINARY_DIR}/${target}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/${target}.pc DESTINATION ${folder})
+  if(library STREQUAL zulgens8)
+    set(requires zulcore)
+    set(libs -lm)
+  endif()
+  set(file ${PROJECT_BINARY_DIR}/pkgconfig/${architecture}/${library}.pc)
+  configure_file(cmake/library.pc.in ${file} @ONLY)
+  install(FILES ${file} DESTINATION ${folder}/pkgconfig)
 endfunction()
 
-zulgen_pkg_config(zulgens8 "Signal transforms of short, fixed length for 32-bit x86")
-zulgen_pkg_config(zulcore "The allocator that zulgens8 takes memory from")
+foreach(target IN LISTS ZULGEN_LIBRARIES)
+  set(architecture ${ZULGEN_ARCHITECTURE_${target}})
+  set(folder lib)
+  if(ZULGEN_MULTIARCH)
+    set(folder lib/${ZULGEN_TRIPLET_${architecture}})
+  endif()
+  if(NOT architecture STREQUAL target)
+    # The dynamic loader looks there by itself; nothing links with it.
+    install(TARGETS zulgens8_${target}
+      LIBRARY DESTINATION ${folder}/glibc-hwcaps/${target} NAMELINK_SKIP)
+    continue()
+  endif()
+  foreach(library zulgens8 zulcore)
+    set_target_properties(${library}_${target} PROPERTIES EXPORT_NAME ${library})
+    set_target_properties(${library}_${target}_static PROPERTIES EXPORT_NAME ${library}_static)
+    install(TARGETS ${library}_${target} ${library}_${target}_static EXPORT zulgen_${target}
+      LIBRARY DESTINATION ${folder} ARCHIVE DESTINATION ${folder})
+  endforeach()
+  install(EXPORT zulgen_${target} NAMESPACE zulgen:: DESTINATION ${package_dir})
+  zulgen_pkg_config(zulgens8 ${target} ${folder} "Signal transforms of short, fixed length for x86")
+  zulgen_pkg_config(zulcore ${target} ${folder} "The allocator that zulgens8 takes memory from")
+endforeach()
+
+# One package for all architectures, which finds the one that a program is built for.
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/zulgenConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)
+install(FILES ${PROJECT_BINARY_DIR}/zulgenConfigVersion.cmake cmake/zulgenConfig.cmake
+  DESTINATION ${package_dir})

@@ -1,89 +1,75 @@
-# How code for the two machines is compiled: the generator runs on the host, everything else is
-# 32-bit code whose arithmetic is SSE, with every rounding where the source has it.
+# The machines that the libraries are built for: targets/NAME/target.cmake tells how code is compiled
+# for each, the rest of the folder how it is written.
+#
+# An architecture is what programs are built for: i386, x86-64. Beside it, a level of it is the same
+# library for processors that can do more; the dynamic loader chooses.
 
-add_library(zulgen_warnings INTERFACE)
-# g++ 12 sees overlaps in every concatenation of strings.
-target_compile_options(zulgen_warnings INTERFACE -Wall -Wextra $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+include(CheckSourceCompiles)
 
-# Programs, and what is linked into programs alone.
-option(ZULGEN_SANITIZE "Watch addresses and undefined behaviour in all code but the kernels" OFF)
-add_library(zulgen_program INTERFACE)
-target_link_libraries(zulgen_program INTERFACE zulgen_warnings)
-if(ZULGEN_SANITIZE)
-  set(ZULGEN_SANITIZERS -fsanitize=address,undefined)
-  target_compile_options(zulgen_program INTERFACE ${ZULGEN_SANITIZERS} -fno-sanitize-recover)
-  target_link_options(zulgen_program INTERFACE ${ZULGEN_SANITIZERS})
-endif()
-
-add_library(zulgen_m32 INTERFACE)
-target_compile_options(zulgen_m32 INTERFACE -m32 -msse2 -mfpmath=sse -ffp-contract=off)
-target_link_options(zulgen_m32 INTERFACE -m32)
-
-# Code inside the shared libraries. SSE3 is there for one move, movddup.
-add_library(zulgen_library_code INTERFACE)
-target_compile_options(zulgen_library_code INTERFACE
-  -O2 -msse3 -fPIC -fomit-frame-pointer -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables
-  -fno-stack-protector
-  # So that a program that links an archive can leave out what it doesn't call.
-  -ffunction-sections)
-if(ZULGEN_SANITIZE)
-  target_compile_options(zulgen_library_code INTERFACE ${ZULGEN_SANITIZERS} -fno-sanitize-recover)
-endif()
-target_include_directories(zulgen_library_code INTERFACE ${PROJECT_SOURCE_DIR}/include)
-target_link_libraries(zulgen_library_code INTERFACE zulgen_m32 zulgen_warnings)
-
-# Kernels: the order of the statements and of their results' registers is the generator's work. No
-# vectoriser touches them; these options have to stand behind -O2, which would turn them on. Functions
-# start at a cache line, so that what a kernel takes does not hang on its neighbours.
-add_library(zulgen_kernel_code INTERFACE)
-target_compile_options(zulgen_kernel_code INTERFACE
-  -fno-tree-vectorize -fno-tree-slp-vectorize -falign-functions=64
-  $<$<CXX_COMPILER_ID:GNU>:-flive-range-shrinkage -frename-registers>)
-target_link_libraries(zulgen_kernel_code INTERFACE zulgen_library_code)
-
-# zulgen_library(TARGET name EXPORTS version-script SOURCES file... OBJECTS object... LIBRARIES lib...):
-# the shared library `name`, which needs nothing but the libraries it is told and has no data that
-# could be written, and beside it `name`_static, an archive of the same objects.
-function(zulgen_library)
-  cmake_parse_arguments(ARG "" "TARGET;EXPORTS" "SOURCES;OBJECTS;LIBRARIES" ${ARGN})
-  set(name ${ARG_TARGET})
-  add_library(${name}_objects OBJECT ${ARG_SOURCES})
-  set_target_properties(${name}_objects PROPERTIES
-    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-  target_include_directories(${name}_objects PRIVATE ${PROJECT_SOURCE_DIR})
-  target_link_libraries(${name}_objects PRIVATE zulgen_library_code)
-  set(objects $<TARGET_OBJECTS:${name}_objects> ${ARG_OBJECTS})
-
-  add_library(${name} SHARED ${objects})
-  set_target_properties(${name} PROPERTIES
-    VERSION 6.1 SOVERSION 6.1 LINK_DEPENDS ${ARG_EXPORTS} LINKER_LANGUAGE CXX
-    # A library finds the other one beside it.
-    BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN")
-  # No start files and no default libraries: they would bring in writable data and the C++ runtime.
-  target_link_options(${name} PRIVATE
-    -m32 -nostdlib -Wl,--version-script=${ARG_EXPORTS}
-    -Wl,-z,defs,-z,text,-z,relro,-z,now,-z,noexecstack)
-  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} gcc)
-  if(ZULGEN_SANITIZE)
-    target_link_libraries(${name} PRIVATE asan ubsan)
+# zulgen_target(name [TRIPLET triplet PROGRAM_OPTIONS option...] [LEVEL_OF architecture]
+#               LIBRARY_OPTIONS option...)
+#
+# For an architecture, ZULGEN_PROGRAM_OPTIONS_name is what makes a program of it, and the target
+# zulgen_program_name what a program of ours is linked with. ZULGEN_LIBRARY_DIR_name is the folder of
+# its libraries in the build, ZULGEN_ARCHITECTURE_name an architecture's own name or that of a level's
+# architecture.
+function(zulgen_target name)
+  cmake_parse_arguments(ARG "" "TRIPLET;LEVEL_OF" "PROGRAM_OPTIONS;LIBRARY_OPTIONS" ${ARGN})
+  if(ARG_LEVEL_OF)
+    set(architecture ${ARG_LEVEL_OF})
+    set(triplet ${ZULGEN_TRIPLET_${architecture}})
+    set(options ${ZULGEN_PROGRAM_OPTIONS_${architecture}})
+    set(library_dir ${ZULGEN_LIBRARY_DIR_${architecture}}/glibc-hwcaps/${name})
+  else()
+    set(architecture ${name})
+    set(triplet ${ARG_TRIPLET})
+    set(options ${ARG_PROGRAM_OPTIONS})
+    set(library_dir ${CMAKE_BINARY_DIR}/lib/${triplet})
+    add_library(zulgen_program_${name} INTERFACE)
+    target_compile_options(zulgen_program_${name} INTERFACE ${options} -ffp-contract=off)
+    target_link_options(zulgen_program_${name} INTERFACE ${options})
+    target_link_libraries(zulgen_program_${name} INTERFACE zulgen_program)
   endif()
+  set(ZULGEN_ARCHITECTURE_${name} ${architecture} PARENT_SCOPE)
+  set(ZULGEN_TRIPLET_${name} ${triplet} PARENT_SCOPE)
+  set(ZULGEN_PROGRAM_OPTIONS_${name} ${options} PARENT_SCOPE)
+  set(ZULGEN_LIBRARY_OPTIONS_${name} ${options} ${ARG_LIBRARY_OPTIONS} PARENT_SCOPE)
+  set(ZULGEN_LIBRARY_DIR_${name} ${library_dir} PARENT_SCOPE)
+endfunction()
 
-  add_library(${name}_static STATIC ${objects})
-  set_target_properties(${name}_static PROPERTIES OUTPUT_NAME ${name} LINKER_LANGUAGE CXX)
-  foreach(library IN LISTS ARG_LIBRARIES)
-    if(TARGET ${library}_static)
-      target_link_libraries(${name}_static INTERFACE ${library}_static)
-    elseif(NOT library STREQUAL c)
-      target_link_libraries(${name}_static INTERFACE ${library})
+foreach(target i386 x86-64 x86-64-v3)
+  include(${PROJECT_SOURCE_DIR}/targets/${target}/target.cmake)
+endforeach()
+
+# What this machine's compiler can make programs of.
+set(available)
+foreach(target x86-64 i386)
+  list(JOIN ZULGEN_PROGRAM_OPTIONS_${target} " " CMAKE_REQUIRED_FLAGS)
+  check_source_compiles(CXX "#include <cmath>\nint main() { return std::abs(0); }"
+    ZULGEN_CAN_BUILD_${target})
+  unset(CMAKE_REQUIRED_FLAGS)
+  if(ZULGEN_CAN_BUILD_${target})
+    list(APPEND available ${target})
+  endif()
+endforeach()
+set(ZULGEN_TARGETS "${available}" CACHE STRING "Architectures to build for, of x86-64 and i386")
+set(ZULGEN_LEVELS x86-64-v3 CACHE STRING "Levels of these to build beside the plain libraries")
+
+# The libraries to build, each behind the architecture that it is a level of.
+set(ZULGEN_LIBRARIES)
+foreach(target IN LISTS ZULGEN_TARGETS)
+  if(NOT ZULGEN_CAN_BUILD_${target})
+    message(FATAL_ERROR "This compiler can't build for ${target} (Debian: package g++-multilib)")
+  endif()
+  list(APPEND ZULGEN_LIBRARIES ${target})
+  foreach(level IN LISTS ZULGEN_LEVELS)
+    if(ZULGEN_ARCHITECTURE_${level} STREQUAL target)
+      list(APPEND ZULGEN_LIBRARIES ${level})
     endif()
   endforeach()
-
-  foreach(target ${name} ${name}_static)
-    add_library(zulgen::${target} ALIAS ${target})
-    target_include_directories(${target} INTERFACE
-      $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:include>)
-    target_compile_options(${target} INTERFACE -m32)
-    target_link_options(${target} INTERFACE -m32)
-  endforeach()
-  set_target_properties(${name} PROPERTIES ZULGEN_LIBRARIES "${ARG_LIBRARIES}")
-endfunction()
+endforeach()
+if(NOT ZULGEN_LIBRARIES)
+  message(FATAL_ERROR "Nothing to build: ZULGEN_TARGETS is empty")
+endif()
+list(GET ZULGEN_TARGETS 0 ZULGEN_FIRST_TARGET)
+message(STATUS "Libraries: ${ZULGEN_LIBRARIES}")

@@ -46,10 +46,8 @@ Graph graph_of(const Tree& tree, Direction direction) {
 std::vector<Kernel> kernels_64fc() {
   std::vector<Kernel> result;
   for (const Row64fc& row : kRows64fc) {
-    for (const Direction direction : {Direction::kForward, Direction::kInverse}) {
-      const bool forward = direction == Direction::kForward;
-      Kernel kernel = describe(row.length, "64fc", row.tree, direction,
-                               forward ? row.forward_order : row.inverse_order);
+    for (const Direction direction : kDirections) {
+      Kernel kernel = describe(row.length, gen::Precision::kDouble, row.tree, direction);
       kernel.bodies =
           row.length <= kLastLengthWithoutTwin ? gen::Bodies::kBothInside : gen::Bodies::kTwin;
       kernel.graph = [tree = networks::parse_tree(row.tree), direction] {

@@ -9,14 +9,6 @@
 
 namespace dft_real {
 
-// Orders, in the notation of gen/schedule.h, that measured fastest.
-struct Orders {
-  const char* forward_32f;
-  const char* forward_64f;
-  const char* inverse_32f;
-  const char* inverse_64f;
-};
-
 // Trees are in the notation of networks/tree.h. An inverse kernel is the mirror image of the
 // network that its tree describes.
 struct Row {
@@ -24,7 +16,6 @@ struct Row {
   const char* forward;
   const char* inverse;
   int sign_flips;  // bins of the forward kernel whose imaginary part comes out of 0.0 - x
-  Orders orders;
 };
 extern const std::vector<Row> kRows;
 // Leaves of trees in Rader's form, those of both directions.

@@ -65,29 +65,16 @@ Graph in_layout(const Graph& core, bool forward, Layout layout, int length) {
 }
 
 Kernel describe(const Row& row, bool forward, Layout layout, Precision precision) {
-  const bool single = precision == Precision::kSingle;
-  const std::string type = single ? "32f" : "64f";
-  const auto name = [&](Layout layout) {
-    const std::string l = name_of(layout);
-    return (forward ? "zulgDFTFwd_RTo" + l : "zulgDFTInv_" + l + "ToR") + "_" +
-           std::to_string(row.length) + "_" + type;
+  const auto signature = [&](Layout layout) {
+    return gen::Signature{gen::Transform::kRealDft,
+                          forward ? gen::Direction::kForward : gen::Direction::kInverse, layout,
+                          precision, row.length};
   };
-  Kernel kernel;
-  kernel.name = name(layout);
-  kernel.family = "dft_real_" + type;
+  Kernel kernel = gen::kernel_of(signature(layout));
   kernel.recipe = forward ? row.forward : row.inverse;
-  kernel.length = row.length;
-  kernel.precision = precision;
-  kernel.scale_rule = forward ? gen::ScaleRule::kForward : gen::ScaleRule::kInverse;
-  kernel.source_type = kernel.destination_type = "zulg" + type;
-  const int spectrum = size_of(layout, row.length);
-  kernel.source_elements = forward ? row.length : spectrum;
-  kernel.destination_elements = forward ? spectrum : row.length;
-  const Orders& orders = row.orders;
-  kernel.order = gen::parse_order(forward ? (single ? orders.forward_32f : orders.forward_64f)
-                                          : (single ? orders.inverse_32f : orders.inverse_64f));
+  (forward ? kernel.destination_elements : kernel.source_elements) = size_of(layout, row.length);
   if (layout == Layout::kPerm && (row.length == 2 || row.length % 2 == 1)) {
-    kernel.same_as = name(Layout::kPack);
+    kernel.same_as = name_of(signature(Layout::kPack));
   }
   return kernel;
 }

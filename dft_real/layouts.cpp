@@ -2,17 +2,6 @@
 
 namespace dft_real {
 
-const char* name_of(Layout layout) {
-  switch (layout) {
-    case Layout::kCcs:
-      return "CCS";
-    case Layout::kPack:
-      return "Pack";
-    default:
-      return "Perm";
-  }
-}
-
 int size_of(Layout layout, int length) {
   return layout == Layout::kCcs ? length / 2 * 2 + 2 : length;
 }

@@ -11,13 +11,13 @@
 
 #include <vector>
 
+#include "gen/signature.h"
+
 namespace dft_real {
 
-enum class Layout { kCcs, kPack, kPerm };
+using gen::Layout;
 inline constexpr Layout kLayouts[] = {Layout::kCcs, Layout::kPack, Layout::kPerm};
 
-// "CCS", "Pack", "Perm".
-const char* name_of(Layout layout);
 // The number of elements.
 int size_of(Layout layout, int length);
 // Where a part is.

@@ -6,27 +6,25 @@
 
 #include <type_traits>
 
+#include "machine.h"  // the target's
 #include "zulgen.h"
 
 #define ZULGEN_EXPORT extern "C" __attribute__((visibility("default")))
+// Another name of an exported function, by which the library itself reaches it.
+#define ZULGEN_HIDDEN_NAME(exported) \
+  extern "C" __attribute__((visibility("hidden"), alias(#exported)))
 // The second body of a kernel: a function of its own that the exported one jumps to. It doesn't
 // rely on the alignment of anything, the stack included.
-#define ZULGEN_TWIN \
-  extern "C" __attribute__((visibility("hidden"), noinline, force_align_arg_pointer))
+#define ZULGEN_TWIN extern "C" __attribute__((visibility("hidden"), noinline ZULGEN_ALIGNS_STACK))
 // Generated arithmetic that becomes part of the function that calls it.
 #define ZULGEN_BODY inline __attribute__((always_inline))
 
 namespace zulgen {
 
-// Whether the first body serves: both arrays are aligned on 16 bytes, and so is the stack, which
-// old callers align on 4. `first_argument` is the address of the kernel's first argument: that lies
-// where the stack pointer was before the call. Aligning the stack costs as much as the arithmetic
-// of a short transform, so only the second body does it.
-inline bool is_aligned(const void* source, const void* destination, const void* first_argument) {
-  const uintptr_t bits = reinterpret_cast<uintptr_t>(source) |
-                         reinterpret_cast<uintptr_t>(destination) |
-                         reinterpret_cast<uintptr_t>(first_argument);
-  return __builtin_expect(bits % 16 == 0, 1);
+// Whether all of these addresses are multiples of 16. Kernels ask by ZULGEN_IS_ALIGNED.
+template <class... Pointers>
+bool is_aligned(Pointers... pointers) {
+  return __builtin_expect(((reinterpret_cast<uintptr_t>(pointers) | ...) % 16) == 0, 1);
 }
 
 // The scale factors of one length, indexed by the flag. A factor of zero marks a number that is no

@@ -2,7 +2,7 @@
 // vector types; here are loads, stores, constants and lane moves, each one instruction.
 #pragma once
 
-#include <pmmintrin.h>
+#include "moves.h"  // the target's
 
 namespace zulgen {
 
@@ -40,17 +40,13 @@ inline F4 load_twice(const float* p) {
   typedef double Half __attribute__((may_alias, aligned(4)));
   return _mm_castpd_ps(_mm_set1_pd(*reinterpret_cast<const Half*>(p)));
 }
-// Two halves from two places. The duplicating load takes no shuffle port and the merge may run on
-// any of three, where the movhps that compilers make of this takes the one that all shuffles want.
+// Two halves from two places. The duplicating load takes no shuffle port, and the merge may run on
+// any of three.
 inline F4 load_halves(const float* low, const float* high) {
-  F4 both = load_twice(high);
-  asm("movsd %1, %0" : "+x"(both) : "x"(load_low(low)));
-  return both;
+  return _mm_castpd_ps(join_halves(_mm_castps_pd(load_low(low)), _mm_castps_pd(load_twice(high))));
 }
 inline D2 load_halves(const double* low, const double* high) {
-  D2 both = _mm_loaddup_pd(high);
-  asm("movsd %1, %0" : "+x"(both) : "x"(_mm_load_sd(low)));
-  return both;
+  return join_halves(_mm_load_sd(low), _mm_loaddup_pd(high));
 }
 inline void store_low(float* p, F4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
 inline void store_high(float* p, F4 v) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), v); }

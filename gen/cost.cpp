@@ -14,6 +14,7 @@ VectorOperations count_vector_operations(const Graph& graph) {
     switch (graph[id].op) {
       case Op::kAdd:
       case Op::kSub:
+      case Op::kFromZero:
         ++counts.additions;
         break;
       case Op::kMul:
@@ -27,6 +28,10 @@ VectorOperations count_vector_operations(const Graph& graph) {
       case Op::kFlipSigns:
         ++counts.sign_flips;
         break;
+      case Op::kWiden:
+      case Op::kRound:
+        ++counts.conversions;
+        break;
       default:
         break;
     }
@@ -37,11 +42,12 @@ VectorOperations count_vector_operations(const Graph& graph) {
 namespace {
 
 int on_two_ports(const VectorOperations& operations) {
-  return operations.additions + operations.moves;
+  return operations.additions + operations.moves + operations.conversions;
 }
 
 int on_three_ports(const VectorOperations& operations) {
-  return on_two_ports(operations) + operations.multiplications + operations.sign_flips;
+  return on_two_ports(operations) + operations.multiplications + operations.sign_flips +
+         operations.conversions;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // A model of what a graph costs on a core that adds and shuffles on two ports and does all vector
-// work on three. It serves to choose between arrangements of the same arithmetic.
+// work on three; a conversion is an addition and a shuffle. It serves to choose between
+// arrangements of the same arithmetic, and as what a measured time is held against.
 #pragma once
 
 #include "gen/graph.h"
@@ -7,7 +8,7 @@
 namespace gen {
 
 struct VectorOperations {
-  int additions = 0, multiplications = 0, moves = 0, sign_flips = 0;
+  int additions = 0, multiplications = 0, moves = 0, sign_flips = 0, conversions = 0;
 };
 
 // Of a graph whose lane moves are single instructions. Loads and stores are left out.

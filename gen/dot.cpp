@@ -11,7 +11,9 @@ namespace {
 class DotWriter {
  public:
   explicit DotWriter(const Kernel& kernel)
-      : kernel_(kernel), graph_(kernel.graph()), is_complex_(kernel.source_type.back() == 'c') {}
+      : kernel_(kernel),
+        graph_(kernel.graph()),
+        is_complex_(kernel.transform == Transform::kComplexDft) {}
 
   std::string write() {
     text_ << "digraph " << kernel_.name << " {\n"

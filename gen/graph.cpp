@@ -130,7 +130,9 @@ void Graph::output(int element, Value value, int lane) {
 }
 
 void Graph::begin_stage(const Stage& stage) {
-  if (stages_.back() != stage) stages_.push_back(stage);
+  const auto known = std::find(stages_.begin(), stages_.end(), stage);
+  stage_ = static_cast<int>(known - stages_.begin());
+  if (known == stages_.end()) stages_.push_back(stage);
 }
 
 Factors Graph::factors(const Node& node) const {
@@ -166,6 +168,20 @@ std::vector<bool> Graph::live_nodes() const {
   return live;
 }
 
+std::vector<NodeId> Graph::nodes_behind(const std::vector<NodeId>& roots) const {
+  std::vector<NodeId> order;
+  std::vector<bool> seen(nodes_.size());
+  const auto visit = [&](const auto& self, NodeId id) -> void {
+    if (seen[id]) return;
+    seen[id] = true;
+    const std::vector<NodeId> before = operands(id);
+    for (auto operand = before.rbegin(); operand != before.rend(); ++operand) self(self, *operand);
+    order.push_back(id);
+  };
+  for (const NodeId root : roots) visit(visit, root);
+  return order;
+}
+
 Node Graph::shaped_like(NodeId id) const {
   Node node;
   node.precision = nodes_[id].precision;
@@ -173,11 +189,19 @@ Node Graph::shaped_like(NodeId id) const {
   return node;
 }
 
+// FNV-1a.
+std::size_t Graph::KeyHash::operator()(const Key& key) const {
+  std::size_t hash = 0xcbf29ce484222325;
+  for (const int part : key) hash = (hash ^ static_cast<unsigned>(part)) * 0x100000001b3;
+  return hash;
+}
+
 NodeId Graph::intern(Node node) {
   NodeId a = node.a, b = node.b;
   if ((node.op == Op::kAdd || node.op == Op::kProduct) && a > b) std::swap(a, b);
-  std::vector<int> key = {static_cast<int>(node.op), static_cast<int>(node.precision),
-                          node.lane_count};
+  Key key;
+  key.reserve(3 + 2 * kMaxLanes);
+  key = {static_cast<int>(node.op), static_cast<int>(node.precision), node.lane_count};
   switch (node.op) {
     case Op::kInput:
       key.push_back(node.element);
@@ -191,24 +215,24 @@ NodeId Graph::intern(Node node) {
       }
       break;
     case Op::kMul:
-      key.insert(key.end(), node.factors.begin(), node.factors.begin() + node.lane_count);
+      for (int lane = 0; lane < node.lane_count; ++lane) key.push_back(node.factors[lane]);
       [[fallthrough]];
     default:
       key.insert(key.end(), {a, b, static_cast<int>(node.flips)});
   }
   const auto [entry, is_new] = known_.try_emplace(std::move(key), size());
   if (is_new) {
-    node.stage = static_cast<int>(stages_.size()) - 1;
+    node.stage = stage_;
     nodes_.push_back(node);
   }
   return entry->second;
 }
 
 int Graph::number_index(const Number& number) {
-  const auto known = std::find(numbers_.begin(), numbers_.end(), number);
-  if (known != numbers_.end()) return static_cast<int>(known - numbers_.begin());
-  numbers_.push_back(number);
-  return static_cast<int>(numbers_.size()) - 1;
+  const auto [entry, is_new] =
+      known_numbers_.try_emplace(number.bits(), static_cast<int>(numbers_.size()));
+  if (is_new) numbers_.push_back(number);
+  return entry->second;
 }
 
 Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_value) {

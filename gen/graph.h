@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "gen/number.h"
@@ -126,6 +127,10 @@ class Graph {
   std::vector<NodeId> operands(NodeId node) const;
   // Whether an output depends on the node.
   std::vector<bool> live_nodes() const;
+  // The nodes that the roots depend on, and the roots, each behind its operands. It doesn't hang on
+  // the order in which they were made, which is the compiler's choice between the operands of one
+  // expression.
+  std::vector<NodeId> nodes_behind(const std::vector<NodeId>& roots) const;
 
  private:
   Value unary(Op op, Value a, Precision precision);
@@ -135,9 +140,15 @@ class Graph {
 
   Precision sample_;
   std::vector<Node> nodes_;
-  std::map<std::vector<int>, NodeId> known_;
+  using Key = std::vector<int>;
+  struct KeyHash {
+    std::size_t operator()(const Key& key) const;
+  };
+  std::unordered_map<Key, NodeId, KeyHash> known_;
   std::vector<Number> numbers_;
+  std::map<Number::Bits, int> known_numbers_;
   std::vector<Stage> stages_ = {{"t", ""}};
+  int stage_ = 0;
   std::vector<Output> outputs_;
 };
 

@@ -13,12 +13,12 @@ namespace gen {
 namespace {
 
 // What stands above a kernel: how it is decomposed, what it costs, what its names mean.
-std::string heading(const Kernel& kernel, const Graph& graph) {
+std::string heading(const Kernel& kernel, const Graph& graph, const Order& order) {
   const Counts counts = count_operations(graph);
   std::ostringstream text;
   text << "// " << kernel.name << ": " << kernel.recipe << "\n";
   text << "//   " << counts.additions << " additions, " << counts.multiplications
-       << " multiplications; order: " << to_string(kernel.order) << "\n";
+       << " multiplications; order: " << to_string(order) << "\n";
   for (const Stage& stage : graph.stages()) {
     if (!stage.description.empty()) {
       text << "//   " << stage.name << ": " << stage.description << "\n";
@@ -29,25 +29,30 @@ std::string heading(const Kernel& kernel, const Graph& graph) {
 
 // The checks, and the factor that the flag selects as `factor`.
 std::string check_text(const Kernel& kernel) {
-  const bool single = kernel.precision == Precision::kSingle;
+  const bool single = kernel.is_single();
   const auto literal = single ? float_literal : double_literal;
-  const std::string by_n = literal(one_over_n(kernel.length)), one = literal(1);
-  const std::string by_sqrt_n = literal(one_over_sqrt_n(kernel.length));
+  const std::string by_n = literal(one_over_n(kernel.length())), one = literal(1);
+  const std::string by_sqrt_n = literal(one_over_sqrt_n(kernel.length()));
   const std::string check =
       "  const zulgResult result = check_arguments(source, destination, flag, ";
   const std::string fail = "  if (result != ZULG_OK) return result;\n";
-  if (kernel.scale_rule == ScaleRule::kBoth) {
+  if (kernel.direction == Direction::kSelfInverse) {
     return std::string(single ? "  float" : "  double") + " factor;\n" + check + by_n + ", " +
            by_sqrt_n + ", factor);\n" + fail;
   }
-  const bool forward = kernel.scale_rule == ScaleRule::kForward;
+  const bool forward = kernel.direction == Direction::kForward;
   return "  static constexpr auto kScale = scale_factors(" + (forward ? by_n : one) + ", " +
          (forward ? one : by_n) + ", " + by_sqrt_n + ");\n" + check + "kScale);\n" + fail;
 }
 
 std::string arguments_of(const Kernel& kernel) {
-  return "const " + kernel.source_type + "* source, " + kernel.destination_type +
-         "* destination, zulgScaleFlag flag";
+  const std::string type = kernel.sample_type();
+  return "const " + type + "* source, " + type + "* destination, zulgScaleFlag flag";
+}
+
+std::string emit_hidden_name(const Kernel& kernel) {
+  return "ZULGEN_HIDDEN_NAME(" + kernel.name + ") zulgResult " + hidden_name(kernel.name) + "(" +
+         arguments_of(kernel) + (kernel.has_work_argument ? ", void* work" : "") + ");\n";
 }
 
 std::string emit_alias(const Kernel& kernel) {
@@ -58,34 +63,44 @@ std::string emit_alias(const Kernel& kernel) {
 
 }  // namespace
 
-std::string Kernel::twin_name() const { return "owng" + name.substr(4) + "_unaligned"; }
+Kernel kernel_of(const Signature& signature) {
+  Kernel kernel;
+  static_cast<Signature&>(kernel) = signature;
+  kernel.name = name_of(signature);
+  const int parts = signature.transform == Transform::kComplexDft ? 2 : 1;
+  kernel.source_elements = kernel.destination_elements = parts * signature.length();
+  return kernel;
+}
+
+std::string Kernel::twin_name() const { return hidden_name(name) + "_unaligned"; }
 
 Graph lowered(const Graph& graph, int source_elements, bool loads_halves) {
-  return synthesize_shuffles(load_vectors(absorb_sign_flips(graph), source_elements, loads_halves));
+  const Graph code = absorb_sign_flips(number_from_outputs(graph));
+  return synthesize_shuffles(load_vectors(code, source_elements, loads_halves));
 }
 
 Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
-std::string emit_kernel(const Kernel& kernel) {
+std::string emit_kernel(const Kernel& kernel, const Order& order) {
   if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
   if (!kernel.same_as.empty()) return emit_alias(kernel);
   const Graph graph = kernel.graph();
   const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
-  const std::string element = kernel.precision == Precision::kSingle ? "float" : "double";
+  const std::string element = kernel.is_single() ? "float" : "double";
   const bool vectors = kernel.bodies != Bodies::kOne;
   const std::string arguments = arguments_of(kernel);
   const auto with_work = [&](const std::string& list, const std::string& work) {
     return "(" + list + (kernel.has_work_argument ? ", " + work : "") + ")";
   };
   const std::string body_name = kernel.name.substr(4);
-  const bool is_chosen = kernel.scale_rule == ScaleRule::kBoth;
+  const bool is_chosen = kernel.direction == Direction::kSelfInverse;
   const std::string factor = is_chosen ? "factor" : "kScale.by_flag[flag]";
   const std::string scale =
       vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
   std::ostringstream text;
-  text << heading(kernel, graph);
+  text << heading(kernel, graph, order);
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
   text << "inline zulgResult " << body_name << "(" << arguments << ") {\n";
@@ -95,7 +110,7 @@ std::string emit_kernel(const Kernel& kernel) {
   text << "  const auto s = " << scale << ";\n\n";
   BodyStyle style;
   style.memory_policy = vectors;
-  text << emit_body(code, schedule(code, kernel.order), style);
+  text << emit_body(code, schedule(code, order), style);
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
   const std::string pass = "source, destination, flag";
@@ -109,13 +124,13 @@ std::string emit_kernel(const Kernel& kernel) {
   text << "ZULGEN_EXPORT zulgResult " << kernel.name
        << with_work(arguments, has_twin ? "void* work" : "void*") << " {\n";
   if (has_twin) {
-    text << "  if (!is_aligned(source, destination, &source)) {\n";
+    text << "  if (!ZULGEN_IS_ALIGNED(source, destination)) {\n";
     text << "    return " << kernel.twin_name() << with_work(pass, "work") << ";\n  }\n";
   } else if (kernel.bodies == Bodies::kBothInside) {
     // Too short to need the stack.
-    text << "  if (!is_aligned(source, destination, nullptr)) return " << unaligned;
+    text << "  if (!is_aligned(source, destination)) return " << unaligned;
   }
-  text << "  return " << aligned << "}\n";
+  text << "  return " << aligned << "}\n" << emit_hidden_name(kernel);
   return text.str();
 }
 

@@ -7,12 +7,9 @@
 
 #include "gen/graph.h"
 #include "gen/schedule.h"
+#include "gen/signature.h"
 
 namespace gen {
-
-// Which flag selects the factor 1 / N: the one of its direction, or, if a transform is its own
-// inverse, either.
-enum class ScaleRule { kForward, kInverse, kBoth };
 
 // How a kernel serves arrays that aren't aligned on 16 bytes.
 enum class Bodies {
@@ -21,16 +18,12 @@ enum class Bodies {
   kTwin,        // the second body in an internal function of its own
 };
 
-struct Kernel {
-  std::string name;    // the exported function
-  std::string family;  // the source files that it goes to
-  std::string recipe;  // the decomposition, in the notation of the family's table
-  int length = 0;      // N
-  Precision precision = Precision::kSingle;
-  ScaleRule scale_rule = ScaleRule::kForward;
-
-  // The C types of what the pointers point to, and how many elements of `precision` are there.
-  std::string source_type, destination_type;
+struct Kernel : Signature {
+  // The exported function.
+  std::string name;
+  // The decomposition, in the notation of the family's table.
+  std::string recipe;
+  // How many elements of `precision` the arrays hold.
   int source_elements = 0, destination_elements = 0;
 
   // An exported function that does the very same, for this name to stand for; or empty.
@@ -43,19 +36,24 @@ struct Kernel {
   bool is_generated = true;
   // See load_vectors().
   bool loads_halves = false;
-  Order order;
   // The data flow, as the network gives it.
   std::function<Graph()> graph;
 
+  // The C type of the samples.
+  std::string sample_type() const { return "zulg" + type_of(*this); }
   // The internal function that holds the second body of kTwin.
   std::string twin_name() const;
 };
 
+// A kernel with the number of samples that its signature tells on either side, without its
+// arithmetic.
+Kernel kernel_of(const Signature& signature);
+
 // The graph in the form that is written out: sign flips in constants, lane moves as instructions.
 Graph lowered(const Graph& graph, int source_elements, bool loads_halves = false);
 
-// The kernel's functions as C++.
-std::string emit_kernel(const Kernel& kernel);
+// The kernel's functions as C++, its statements in the given order.
+std::string emit_kernel(const Kernel& kernel, const Order& order);
 
 // The scale factors of a length N, computed as the kernels store them.
 Quad one_over_n(int n);

@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <cstdio>
+#include <map>
 #include <numeric>
+#include <utility>
 
 namespace gen {
 namespace {
@@ -40,11 +42,6 @@ std::string formatted(const char* format, double value) {
 
 Number::Number(int value) : value_(value), name_(std::to_string(value < 0 ? -value : value)) {}
 
-bool operator==(const Number& a, const Number& b) {
-  return a.value_ == b.value_ &&
-         std::signbit(static_cast<double>(a.value_)) == std::signbit(static_cast<double>(b.value_));
-}
-
 Number operator*(const Number& a, const Number& b) {
   if (a.magnitude() == Number(1)) return a.is_negative() ? -b : b;
   if (b.magnitude() == Number(1)) return b.is_negative() ? -a : a;
@@ -62,7 +59,9 @@ Number ratio(int numerator, int denominator) {
                 fraction(top < 0 ? -top : top, denominator / common));
 }
 
-Number cos_of_turn(long numerator, long denominator) {
+namespace {
+
+Number compute_cos_of_turn(long numerator, long denominator) {
   // Count in eighths of a turn: the octant, and within it a remainder that odd octants reverse.
   numerator %= denominator;
   if (numerator < 0) numerator += denominator;
@@ -87,6 +86,17 @@ Number cos_of_turn(long numerator, long denominator) {
                         : Number(taylor(1, 1, x), "cos " + fraction(top, bottom));
   }
   return negative && !(magnitude == Number(0)) ? -magnitude : magnitude;
+}
+
+}  // namespace
+
+Number cos_of_turn(long numerator, long denominator) {
+  // The same few thousand angles come up again and again.
+  static std::map<std::pair<long, long>, Number> known;
+  const std::pair turn(numerator % denominator, denominator);
+  const auto at = known.find(turn);
+  if (at != known.end()) return at->second;
+  return known.emplace(turn, compute_cos_of_turn(numerator, denominator)).first->second;
 }
 
 Number sin_of_turn(long numerator, long denominator) {

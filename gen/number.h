@@ -1,6 +1,9 @@
 // Exact constants of the networks: numbers known to 113 bits, rounded once, when they are printed.
 #pragma once
 
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <string>
 
 namespace gen {
@@ -22,8 +25,10 @@ class Number {
   bool is_negative() const { return value_ < 0; }
   Number magnitude() const { return is_negative() ? -*this : *this; }
   Number operator-() const { return Number(-value_, name_); }
-  // Equal as constants of a kernel: +0 and -0 differ.
-  friend bool operator==(const Number& a, const Number& b);
+  // Numbers are equal as constants of a kernel exactly if their bits are: +0 and -0 differ.
+  using Bits = std::array<std::uint64_t, 2>;
+  Bits bits() const { return std::bit_cast<Bits>(value_); }
+  friend bool operator==(const Number& a, const Number& b) { return a.bits() == b.bits(); }
 
  private:
   Quad value_;

@@ -83,6 +83,21 @@ Graph fold_all_products(const Graph& old) {
   }
 }
 
+Graph number_from_outputs(const Graph& old) {
+  std::vector<NodeId> roots;
+  for (const Output& out : old.outputs()) roots.push_back(out.from.node);
+  Graph graph(old.sample_precision());
+  NewValues new_value(old.size());
+  for (const NodeId id : old.nodes_behind(roots)) {
+    graph.begin_stage(old.stages()[old[id].stage]);
+    new_value[id] = copy_node(old, id, graph, new_value);
+  }
+  for (const Output& out : old.outputs()) {
+    graph.output(out.element, new_value[out.from.node], out.from.index);
+  }
+  return graph;
+}
+
 Graph renumber_elements(const Graph& old, const std::function<int(int)>& source,
                         const std::function<int(int)>& destination) {
   const auto make = [&](Graph& graph, NodeId id, const NewValues& new_value) {

@@ -21,6 +21,10 @@ Graph fold_products(const Graph& graph);
 // left to fold.
 Graph fold_all_products(const Graph& graph);
 
+// The same graph with its live nodes numbered as the outputs ask for them. What comes of a graph
+// later, the order of its statements first of all, then doesn't hang on who compiled the generator.
+Graph number_from_outputs(const Graph& graph);
+
 // A scalar graph with the elements of source and destination renumbered.
 Graph renumber_elements(const Graph& graph, const std::function<int(int)>& source,
                         const std::function<int(int)>& destination);

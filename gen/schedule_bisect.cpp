@@ -3,7 +3,6 @@
 // only the outputs' side depends on last, and each half is ordered the same way.
 #include <algorithm>
 #include <deque>
-#include <map>
 
 #include "gen/schedule.h"
 
@@ -13,7 +12,10 @@ namespace {
 class Bisection {
  public:
   Bisection(const Dependencies& dag, int variant)
-      : dag_(dag), variant_(variant), part_of_(dag.operations.size(), 0) {}
+      : dag_(dag),
+        variant_(variant),
+        part_of_(dag.operations.size(), 0),
+        colour_(dag.operations.size(), kNone) {}
 
   std::vector<int> run() {
     std::vector<int> all(dag_.operations.size());
@@ -24,6 +26,7 @@ class Bisection {
 
  private:
   using Part = std::vector<int>;
+  enum Colour : char { kNone, kEarly, kLate };
 
   // Orders the operations of `part`, which is numbered `number` in part_of_.
   void order(const Part& part, int number) {
@@ -50,46 +53,46 @@ class Bisection {
   }
 
   std::vector<Part> connected_components(const Part& part, int number) {
-    std::map<int, int> component;
+    // What has been reached is given a number of its own for the time being.
+    constexpr int kReached = -1;
     std::vector<Part> result;
     for (int seed : part) {
-      if (component.contains(seed)) continue;
-      const int index = static_cast<int>(result.size());
+      if (part_of_[seed] == kReached) continue;
       Part& members = result.emplace_back();
       std::vector<int> pending = {seed};
-      component[seed] = index;
+      part_of_[seed] = kReached;
       while (!pending.empty()) {
         const int i = pending.back();
         pending.pop_back();
         members.push_back(i);
         for (const auto* neighbours : {&dag_.operands[i], &dag_.users[i]}) {
           for (int j : *neighbours) {
-            if (part_of_[j] == number && component.try_emplace(j, index).second) {
-              pending.push_back(j);
-            }
+            if (part_of_[j] != number) continue;
+            part_of_[j] = kReached;
+            pending.push_back(j);
           }
         }
       }
       std::sort(members.begin(), members.end());
     }
+    for (int i : part) part_of_[i] = number;
     return result;
   }
 
   // Colours layers from the inputs and from the outputs in turns until every operation has one.
   std::vector<Part> halves(const Part& part, int number) {
-    enum Colour { kNone, kEarly, kLate };
-    std::map<int, Colour> colour;
     std::size_t coloured = 0;
+    for (int i : part) colour_[i] = kNone;
     const auto layer = [&](Colour paint, const std::vector<std::vector<int>>& before) {
       std::vector<int> ready;
       for (int i : part) {
-        if (colour[i] != kNone) continue;
+        if (colour_[i] != kNone) continue;
         const bool free = std::all_of(before[i].begin(), before[i].end(), [&](int j) {
-          return part_of_[j] != number || colour[j] == paint;
+          return part_of_[j] != number || colour_[j] == paint;
         });
         if (free) ready.push_back(i);
       }
-      for (int i : ready) colour[i] = paint;
+      for (int i : ready) colour_[i] = paint;
       coloured += ready.size();
     };
     if (tie_break(variant_, part[0]) & 1) layer(kLate, dag_.users);
@@ -98,7 +101,7 @@ class Bisection {
       layer(kLate, dag_.users);
     }
     std::vector<Part> result(2);
-    for (int i : part) result[colour[i] == kLate].push_back(i);
+    for (int i : part) result[colour_[i] == kLate].push_back(i);
     return result;
   }
 
@@ -128,6 +131,7 @@ class Bisection {
   const Dependencies& dag_;
   const int variant_;
   std::vector<int> part_of_;
+  std::vector<Colour> colour_;
   int part_count_ = 0;
   std::vector<int> result_;
   std::deque<int> recent_;

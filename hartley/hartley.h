@@ -15,8 +15,6 @@ enum class Form { kOutputButterflies, kInputButterflies };
 struct Row {
   int length;
   Form form;
-  const char* order_32f;  // in the notation of gen/schedule.h, as measured fastest
-  const char* order_64f;
 };
 extern const std::vector<Row> kRows;
 

@@ -52,23 +52,14 @@ Graph graph_of(const Row& row, Precision precision) {
 std::vector<Kernel> kernels() {
   std::vector<Kernel> result;
   for (const Precision precision : {Precision::kSingle, Precision::kDouble}) {
-    const bool single = precision == Precision::kSingle;
-    const std::string type = single ? "32f" : "64f";
     for (const Row& row : kRows) {
       const dft_real::Row& core = dft_real::row_of(row.length);
       const bool output_form = row.form == Form::kOutputButterflies;
-      Kernel kernel;
-      kernel.name = "zulgHartley_" + std::to_string(row.length) + "_" + type;
-      kernel.family = "hartley_" + type;
+      Kernel kernel = gen::kernel_of({gen::Transform::kHartley, gen::Direction::kSelfInverse,
+                                      gen::Layout::kNone, precision, row.length});
       kernel.recipe = output_form
                           ? "butterflies behind " + std::string(core.forward)
                           : "butterflies before the inverse of " + std::string(core.inverse);
-      kernel.length = row.length;
-      kernel.precision = precision;
-      kernel.scale_rule = gen::ScaleRule::kBoth;
-      kernel.source_type = kernel.destination_type = "zulg" + type;
-      kernel.source_elements = kernel.destination_elements = row.length;
-      kernel.order = gen::parse_order(single ? row.order_32f : row.order_64f);
       kernel.graph = [row, precision] { return graph_of(row, precision); };
       result.push_back(std::move(kernel));
     }

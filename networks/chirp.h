@@ -21,15 +21,23 @@ std::vector<ComplexNumber> chirp(int n);
 // B[k], k = 0..length - 1.
 std::vector<ComplexNumber> chirp_spectrum(int n, int length);
 
-// X[k], k = 0..N - 1, with root exp(-2 pi i exponent / N), exponent 1 or -1. The tree's length is
-// M. Additions of the zeros behind the input are left out, and so is what only other outputs need.
+// X[k], k = 0..N - 1, with root exp(-2 pi i exponent / N), exponent 1 or -1: the conjugate root has
+// the conjugate chirp, the conjugate spectrum, and the conjugate root in both transforms. The
+// tree's length is M. Additions of the zeros behind the input are left out, and so is what only
+// other outputs need.
 template <class Form>
 std::vector<typename Form::Sample> chirp_dft(Form& form, const Tree& tree,
                                              const std::vector<typename Form::Sample>& x,
                                              int exponent) {
   using Sample = typename Form::Sample;
   const int n = static_cast<int>(x.size());
-  std::vector<ComplexNumber> w = chirp(n);
+  const auto of_root = [exponent](std::vector<ComplexNumber> constants) {
+    if (exponent == -1) {
+      for (ComplexNumber& constant : constants) constant.im = -constant.im;
+    }
+    return constants;
+  };
+  std::vector<ComplexNumber> w = of_root(chirp(n));
   form.begin_stage("w", "times the chirp");
   // Neighbours side by side; the last one has a zero beside it.
   std::vector<Sample> a = x;
@@ -42,17 +50,15 @@ std::vector<typename Form::Sample> chirp_dft(Form& form, const Tree& tree,
   w.resize(tree.length, w[0]);
   a = multiply_groups(form, a, w, groups);
   const std::vector<Sample> spectrum =
-      ComplexDft<Form>(form, nullptr, Twiddles::kAllColumns).run(tree, a, 1);
+      ComplexDft<Form>(form, nullptr, Twiddles::kAllColumns).run(tree, a, exponent);
   form.begin_stage("r", "times the chirp's spectrum");
-  const std::vector<Sample> z = multiply_all(form, spectrum, chirp_spectrum(n, tree.length));
-  std::vector<Sample> b = ComplexDft<Form>(form).run(tree, z, -1, "i");
+  const std::vector<Sample> z =
+      multiply_all(form, spectrum, of_root(chirp_spectrum(n, tree.length)));
+  std::vector<Sample> b =
+      ComplexDft<Form>(form, nullptr, Twiddles::kNeededAsInverse).run(tree, z, -exponent, "i");
   b.resize(n);
   form.begin_stage("v", "times the chirp");
-  const std::vector<Sample> product = multiply_all(form, b, w);
-  // The conjugate root renames the outputs.
-  std::vector<Sample> y(n);
-  for (int k = 0; k < n; ++k) y[exponent == 1 ? k : (n - k) % n] = product[k];
-  return y;
+  return multiply_all(form, b, w);
 }
 
 }  // namespace networks

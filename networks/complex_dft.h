@@ -15,9 +15,9 @@
 //   leaf_in_lanes(Block) -> Block     a short transform whose values fill the packs by themselves
 //   multiply(Packed, vector<ComplexNumber>, bool conjugate) -> Packed
 //                                     sample i by constant i, or its conjugate, in full
-//   twiddle(Packed, vector<Turn>) -> Packed
-//                                     sample i by exp(2 pi i * turn i), by quarter turns for
-//                                     nothing
+//   twiddle(Packed, vector<Turn>, bool conjugate) -> Packed
+//                                     sample i by exp(2 pi i * turn i), or its conjugate, by
+//                                     quarter turns for nothing
 //   choose() -> bool                  settles which of two arrangements to take; the arithmetic
 //                                     that a sample sees is the same either way
 //   begin_stage(name, description)    for readers of generated code
@@ -41,9 +41,10 @@ namespace networks {
 
 // Which twiddle factors are carried out, and on which samples together.
 enum class Twiddles {
-  kNeeded,      // those that aren't 1, on whatever samples take the fewest products
-  kAllRows,     // all of rows j2 >= 1, on samples that the second stage takes together
-  kAllColumns,  // all of columns k1 >= 1, on samples that the first stage leaves together
+  kNeeded,           // those that aren't 1, on whatever samples take the fewest products
+  kNeededAsInverse,  // the same, by the inverse root's constants whichever the root is
+  kAllRows,          // all of rows j2 >= 1, on samples that the second stage takes together
+  kAllColumns,       // all of columns k1 >= 1, on samples that the first stage leaves together
 };
 
 template <class Form>
@@ -246,6 +247,7 @@ class ComplexDft {
   void twiddle(Blocks& columns, const Groups& row_groups, int a, int b, int exponent) {
     const int count = static_cast<int>(columns.size()) / b;
     form_.begin_stage(last_stage_ + "w", "twiddle factors of length " + std::to_string(a * b));
+    const bool conjugate = twiddles_ == Twiddles::kNeededAsInverse && exponent > 0;
     for (const Pack& pack : packs_to_multiply(columns, row_groups, b)) {
       std::vector<Turn> turns;
       std::vector<ComplexNumber> table;  // both directions use that of the positive exponent
@@ -253,19 +255,23 @@ class ComplexDft {
       bool uniform = true;
       for (const auto& [column, k1] : pack) {
         const long turn = -static_cast<long>(exponent) * (column / count) * k1;
-        turns.emplace_back(turn, a * b);
+        turns.emplace_back(conjugate ? -turn : turn, a * b);
         table.push_back(Turn(exponent < 0 ? -turn : turn, a * b).root());
         samples.push_back(columns[column][k1]);
         uniform = uniform && turns.back() == turns.front();
       }
       const Packed packed = form_.pack(samples);
-      const bool in_full = twiddles_ != Twiddles::kNeeded && !uniform;
-      const Packed product =
-          in_full ? form_.multiply(packed, table, exponent < 0) : form_.twiddle(packed, turns);
+      const bool in_full = carries_out_all() && !uniform;
+      const Packed product = in_full ? form_.multiply(packed, table, exponent < 0)
+                                     : form_.twiddle(packed, turns, conjugate);
       for (std::size_t i = 0; i < pack.size(); ++i) {
         columns[pack[i].column][pack[i].k1] = form_.unpack(product, static_cast<int>(i));
       }
     }
+  }
+
+  bool carries_out_all() const {
+    return twiddles_ == Twiddles::kAllRows || twiddles_ == Twiddles::kAllColumns;
   }
 
   std::vector<Pack> packs_to_multiply(const Blocks& columns, const Groups& row_groups, int b) {
@@ -273,6 +279,7 @@ class ComplexDft {
     std::vector<Pack> packs;
     switch (twiddles_) {
       case Twiddles::kNeeded:
+      case Twiddles::kNeededAsInverse:
         return fewest_packs(columns, row_groups, b);
       case Twiddles::kAllRows:
         packs = packs_as_taken(row_groups, b, count);

@@ -12,23 +12,6 @@
 
 namespace networks {
 
-// The nodes behind the outputs, operands first. It doesn't depend on the order in which they were
-// made, which is the compiler's choice between the operands of one expression.
-inline std::vector<gen::NodeId> order_from_outputs(const gen::Graph& graph,
-                                                   const std::vector<gen::Expr>& outputs) {
-  std::vector<gen::NodeId> order;
-  std::vector<bool> seen(graph.size());
-  const auto visit = [&](const auto& self, gen::NodeId id) -> void {
-    if (id == gen::kNoNode || seen[id]) return;
-    seen[id] = true;
-    self(self, graph[id].b);
-    self(self, graph[id].a);
-    order.push_back(id);
-  };
-  for (const gen::Expr& output : outputs) visit(visit, output.value.node);
-  return order;
-}
-
 // `make(inputs)` is the network, from `input_count` expressions to some others. The values are one
 // for each of its outputs; the result has one for each of its inputs.
 template <class V, class Make>
@@ -50,7 +33,9 @@ std::vector<V> run_mirrored(int input_count, Make make, const std::vector<V>& va
   for (std::size_t i = 0; i < outputs.size(); ++i) {
     give(outputs[i].value.node, values[i], outputs[i].value.negative);
   }
-  const std::vector<gen::NodeId> order = order_from_outputs(graph, outputs);
+  std::vector<gen::NodeId> roots;
+  for (const gen::Expr& output : outputs) roots.push_back(output.value.node);
+  const std::vector<gen::NodeId> order = graph.nodes_behind(roots);
   for (auto at = order.rbegin(); at != order.rend(); ++at) {
     const gen::NodeId id = *at;
     const gen::Node& node = graph[id];

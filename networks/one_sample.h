@@ -33,8 +33,8 @@ class OneSample {
     const Number re = constants[0].re, im = conjugate ? -constants[0].im : constants[0].im;
     return {re * z.re - im * z.im, re * z.im + im * z.re};
   }
-  Packed twiddle(const Packed& z, const std::vector<Turn>& turns) {
-    return rotate(z, turns[0], diagonal_);
+  Packed twiddle(const Packed& z, const std::vector<Turn>& turns, bool conjugate = false) {
+    return rotate(z, conjugate ? -turns[0] : turns[0], diagonal_);
   }
   bool choose() { return false; }
   void begin_stage(const std::string& name, const std::string& description) {

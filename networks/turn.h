@@ -21,6 +21,7 @@ struct Turn {
   bool is_quarter() const { return 4 % denominator == 0; }
   // exp(2 pi i * turn).
   ComplexNumber root() const { return gen::unit_root(numerator, denominator); }
+  Turn operator-() const { return Turn(-numerator, denominator); }
   friend bool operator==(const Turn&, const Turn&) = default;
 };
 

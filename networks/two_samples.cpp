@@ -111,16 +111,18 @@ std::vector<TwoSamples::Sample> TwoSamples::leaf_in_lanes(const std::vector<Samp
   return {unpack(y0, 0), unpack(y12, 0), unpack(y12, 1), unpack(y43, 1), unpack(y43, 0)};
 }
 
-TwoSamples::Packed TwoSamples::twiddle(const Packed& z, const std::vector<Turn>& turns) {
+TwoSamples::Packed TwoSamples::twiddle(const Packed& z, const std::vector<Turn>& turns,
+                                       bool conjugate) {
   if (z.is_zero()) return z;
   const Turn& first = turns.front();
   const Turn& last = turns.back();
+  const auto rotated = [&](const Turn& turn) { return rotate(z, conjugate ? -turn : turn); };
   // One factor for both samples rotates the vector as a whole.
-  if (first == last) return rotate(z, first);
+  if (first == last) return rotated(first);
   if (first.is_quarter() && last.is_quarter()) {
-    return pack({unpack(rotate(z, first), 0), unpack(rotate(z, last), 1)});
+    return pack({unpack(rotated(first), 0), unpack(rotated(last), 1)});
   }
-  return multiply(z, {first.root(), last.root()});
+  return multiply(z, {first.root(), last.root()}, conjugate);
 }
 
 // Every lane is multiplied, also by 1 or 0: re * wr - im * wi, im * wr + re * wi, with the

@@ -69,7 +69,7 @@ class TwoSamples {
   std::vector<Sample> leaf_in_lanes(const std::vector<Sample>& block);
   Packed multiply(const Packed& z, const std::vector<ComplexNumber>& constants,
                   bool conjugate = false);
-  Packed twiddle(const Packed& z, const std::vector<Turn>& turns);
+  Packed twiddle(const Packed& z, const std::vector<Turn>& turns, bool conjugate = false);
   bool choose() {
     if (choices_ == plan_.size()) plan_.push_back(false);
     return plan_[choices_++];

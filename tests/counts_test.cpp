@@ -59,8 +59,8 @@ TEST(Counts, EqualTheTables) {
   for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const bool single = kernel.precision == gen::Precision::kSingle;
     const auto& composite = single ? kComposite32fc : kComposite64fc;
-    const auto row = composite.find(kernel.length);
-    const bool forward = kernel.scale_rule == gen::ScaleRule::kForward;
+    const auto row = composite.find(kernel.length());
+    const bool forward = kernel.direction == gen::Direction::kForward;
     if (row != composite.end()) {
       const gen::Counts counts = gen::count_operations(kernel.graph());
       EXPECT_EQ(counts.additions, row->second.additions) << kernel.name;
@@ -68,7 +68,7 @@ TEST(Counts, EqualTheTables) {
                 forward ? row->second.multiplications : row->second.inverse_multiplications)
           << kernel.name;
     } else if (!single) {
-      const Row& prime = kPrime64fc.at(kernel.length);
+      const Row& prime = kPrime64fc.at(kernel.length());
       EXPECT_EQ(gen::count_operations(kernel.graph()),
                 (gen::Counts{prime.additions, prime.multiplications}))
           << kernel.name;
@@ -80,16 +80,16 @@ TEST(Counts, EqualTheTables) {
 // added in the lane beside x[0] is the one thing that the arrangement settles.
 TEST(Counts, OfPrimeLengthsIncludeIdleLanes) {
   for (const gen::Kernel& kernel : dft_complex::kernels()) {
-    const auto row = kPrime32fc.find(kernel.length);
+    const auto row = kPrime32fc.find(kernel.length());
     if (kernel.precision != gen::Precision::kSingle || row == kPrime32fc.end()) continue;
     const gen::Counts counts = gen::count_carried_operations(kernel.graph());
     const auto [additions, multiplications, inverse] = row->second;
-    if (kernel.length == 47) {
+    if (kernel.length() == 47) {
       EXPECT_LE(counts.additions, additions) << kernel.name;
       EXPECT_LE(counts.multiplications, multiplications) << kernel.name;
       continue;
     }
-    const bool exact = kernel.length == 7 || kernel.length == 23 || kernel.length == 59;
+    const bool exact = kernel.length() == 7 || kernel.length() == 23 || kernel.length() == 59;
     EXPECT_LE(counts.additions, additions) << kernel.name;
     EXPECT_GE(counts.additions, additions - (exact ? 0 : 6)) << kernel.name;
     EXPECT_EQ(counts.multiplications, multiplications) << kernel.name;
@@ -106,7 +106,7 @@ TEST(Counts, ConversionsStandInTheScalarKernelsAlone) {
       conversions.first += graph[id].op == gen::Op::kWiden;
       conversions.second += graph[id].op == gen::Op::kRound;
     }
-    const auto stated = widened_and_rounded.find(kernel.length);
+    const auto stated = widened_and_rounded.find(kernel.length());
     if (kernel.precision == gen::Precision::kSingle && stated != widened_and_rounded.end()) {
       expected = stated->second;
     }
@@ -126,7 +126,7 @@ TEST(Counts, DoublePrecisionKernelsSwapOnceAPairOfBins) {
       if (!live[id] || node.op != gen::Op::kLanes) continue;
       swaps += graph[node.picks[0].node].op != gen::Op::kInput;
     }
-    EXPECT_EQ(swaps, (kernel.length - 1) / 2) << kernel.name;
+    EXPECT_EQ(swaps, (kernel.length() - 1) / 2) << kernel.name;
   }
 }
 

@@ -5,13 +5,10 @@
 #include <climits>
 #include <map>
 
-#include "gen/dispatch.h"
-#include "gen/manifest.h"
 #include "tests/harness/subject.h"
 
 namespace {
 
-using harness::Subject;
 // The work buffer lies where a function without one doesn't look.
 using Entry = zulgResult (*)(const void* source, void* destination, int length, zulgScaleFlag flag,
                              void* work);
@@ -25,13 +22,18 @@ Function find(const std::string& name) {
   return reinterpret_cast<Function>(function);
 }
 
-std::map<std::string, gen::Kernel> kernels_by_name() {
-  std::map<std::string, gen::Kernel> result;
-  for (gen::Kernel& kernel : gen::all_kernels()) result.emplace(kernel.name, kernel);
+const generate::Contents& contents() {
+  static const generate::Contents all = generate::read_contents(LIBRARY_TXT);
+  return all;
+}
+
+std::map<std::string, harness::Shape> kernels_by_name() {
+  std::map<std::string, harness::Shape> result;
+  for (const auto& kernel : contents().kernels) result.emplace(kernel.name, harness::Shape{kernel});
   return result;
 }
 
-class DispatchEntry : public testing::TestWithParam<gen::DispatchEntry> {
+class DispatchEntry : public testing::TestWithParam<generate::EntryLine> {
  protected:
   int lowest() const { return GetParam().lowest; }
   int highest() const { return lowest() + static_cast<int>(GetParam().kernels.size()) - 1; }
@@ -42,13 +44,12 @@ TEST_P(DispatchEntry, ReachesTheKernelOfEveryLength) {
   const auto kernels = kernels_by_name();
   int length = lowest();
   for (const std::string& name : GetParam().kernels) {
-    const Subject subject{kernels.at(name), nullptr};
+    const harness::Shape& shape = kernels.at(name);
     const auto kernel = find<Kernel>(name);
     for (const std::size_t offset : {0, 1}) {
       // Of doubles, so that a work buffer and a source are aligned as vectors are.
       alignas(16) static double source[2 * 8192 + 2], work[3 * 8192];
-      store_elements(subject, make_input(subject, harness::Data::kUniform, length),
-                     source + offset);
+      store_elements(shape, make_input(shape, harness::Data::kUniform, length), source + offset);
       std::vector<double> by_entry(std::size(source), 0.5), by_name = by_entry;
       ASSERT_EQ(entry(source + offset, by_entry.data(), length, ZULG_SCALE_BY_SQRT_N, work),
                 ZULG_OK);
@@ -77,27 +78,7 @@ TEST_P(DispatchEntry, RefusesOtherLengthsFirst) {
   EXPECT_EQ(destination, 0.5);
 }
 
-INSTANTIATE_TEST_SUITE_P(Manifest, DispatchEntry,
-                         testing::ValuesIn(gen::dispatch_entries(gen::all_kernels())),
+INSTANTIATE_TEST_SUITE_P(Manifest, DispatchEntry, testing::ValuesIn(contents().entries),
                          [](const auto& info) { return info.param.name; });
-
-TEST(DispatchEntries, ComeOfTheManifest) {
-  gen::Kernel first, second, third;
-  first.name = "zulgSum_1_32f";
-  second.name = "zulgSum_2_32f";
-  third.name = "zulgSum_3_32f";
-  first.has_work_argument = true;
-  const auto entries = gen::dispatch_entries({first, second, third});
-  ASSERT_EQ(entries.size(), 1u);
-  EXPECT_EQ(entries[0].name, "zulgSum_32f");
-  EXPECT_EQ(entries[0].lowest, 1);
-  EXPECT_NE(gen::emit_dispatch(entries[0]).find("int, zulgScaleFlag, void*)"), std::string::npos);
-  EXPECT_THROW(gen::dispatch_entries({first, third}), std::runtime_error);
-  std::size_t kernels = 0;
-  for (const auto& entry : gen::dispatch_entries(gen::all_kernels())) {
-    kernels += entry.kernels.size();
-  }
-  EXPECT_EQ(kernels, gen::all_kernels().size());
-}
 
 }  // namespace

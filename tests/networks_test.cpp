@@ -7,8 +7,8 @@
 
 #include "dft_complex/transform_32fc.h"
 #include "gen/interpret.h"
-#include "gen/manifest.h"
 #include "gen/rewrite.h"
+#include "generate/manifest.h"
 #include "networks/one_sample.h"
 #include "networks/real_dft.h"
 
@@ -151,7 +151,7 @@ std::vector<double> as_source(const Block& x) {
 }
 
 int exponent_of(const gen::Kernel& kernel) {
-  return kernel.scale_rule == gen::ScaleRule::kForward ? 1 : -1;
+  return kernel.direction == gen::Direction::kForward ? 1 : -1;
 }
 
 // Which samples share a vector is free to choose because it rounds nothing differently.
@@ -160,18 +160,18 @@ TEST(ComplexKernels, HaveTheValuesOfThePlainNetwork) {
     if (kernel.bodies == gen::Bodies::kOne) continue;
     gen::Graph graph(kernel.precision);
     std::vector<Complex<gen::Expr>> samples;
-    for (int n = 0; n < kernel.length; ++n) {
+    for (int n = 0; n < kernel.length(); ++n) {
       samples.push_back({{&graph, graph.input(2 * n)}, {&graph, graph.input(2 * n + 1)}});
     }
     const gen::Expr zero = {&graph, graph.zero(kernel.precision)};
     networks::OneSample<gen::Expr> form(graph, {zero, zero});
     const auto spectrum = dft_complex::transform_32fc(form, networks::parse_tree(kernel.recipe),
                                                       samples, exponent_of(kernel));
-    for (int k = 0; k < kernel.length; ++k) {
+    for (int k = 0; k < kernel.length(); ++k) {
       graph.output(2 * k, spectrum[k].re.value);
       graph.output(2 * k + 1, spectrum[k].im.value);
     }
-    const std::vector<double> source = as_source(random_block(kernel.length));
+    const std::vector<double> source = as_source(random_block(kernel.length()));
     EXPECT_EQ(gen::interpret(kernel.graph(), source, 1),
               gen::interpret(gen::fold_products(graph), source, 1))
         << kernel.name;
@@ -227,17 +227,17 @@ int missing_stage_values(const gen::Kernel& kernel, const Tree& tree, const Bloc
 // A count can't tell PFA(4, 5) from PFA(5, 4); what a kernel computes on its way can.
 TEST(ComplexKernels, HoldTheStageValuesOfTheirTree) {
   for (const gen::Kernel& kernel : dft_complex::kernels_32fc()) {
-    const Block x = random_block(kernel.length);
+    const Block x = random_block(kernel.length());
     EXPECT_EQ(missing_stage_values(kernel, networks::parse_tree(kernel.recipe), x, false), 0)
         << kernel.name << ": " << kernel.recipe;
-    if (kernel.length == 46 || kernel.length == 62) {
-      const Tree map = networks::parse_tree(kernel.length == 46 ? "PFA(23, 2)" : "PFA(31, 2)");
+    if (kernel.length() == 46 || kernel.length() == 62) {
+      const Tree map = networks::parse_tree(kernel.length() == 46 ? "PFA(23, 2)" : "PFA(31, 2)");
       EXPECT_EQ(missing_stage_values(kernel, map, x, false), 0) << kernel.name;
     }
   }
   // Two real sequences at a time: with one of them zero, the other's stages can be seen.
   for (const gen::Kernel& kernel : dft_complex::kernels_64fc()) {
-    Block x = random_block(kernel.length);
+    Block x = random_block(kernel.length());
     for (auto& sample : x) sample.im = 0;
     EXPECT_EQ(missing_stage_values(kernel, networks::parse_tree(kernel.recipe), x, true), 0)
         << kernel.name << ": " << kernel.recipe;

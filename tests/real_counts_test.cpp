@@ -59,7 +59,7 @@ int count_double_scaled(const Graph& graph) {
   });
 }
 
-bool is_forward(const Kernel& kernel) { return kernel.scale_rule == gen::ScaleRule::kForward; }
+bool is_forward(const Kernel& kernel) { return kernel.direction == gen::Direction::kForward; }
 bool is_single(const Kernel& kernel) { return kernel.precision == gen::Precision::kSingle; }
 
 // The proper divisors b of n for which every coset of indices modulo n / b, which has b members, is
@@ -107,7 +107,7 @@ TEST(RealCounts, EqualTheTables) {
     const Graph graph = kernel.graph();
     const gen::Counts counts = gen::count_operations(graph);
     const auto wanted = [&](const Table& table, int column) {
-      return std::stoi(table.at(kernel.length)[column]);
+      return std::stoi(table.at(kernel.length())[column]);
     };
     const int double_scaled = count_double_scaled(graph);
     if (is_forward(kernel)) {
@@ -134,7 +134,7 @@ TEST(RealCounts, EqualTheTables) {
 TEST(RealCounts, FactorsAreAppliedInTheOrderOfTheTables) {
   const Table forward = read_table("real_forward.csv"), inverse = read_table("real_inverse.csv");
   for (const Kernel& kernel : dft_real::kernels()) {
-    const int n = kernel.length;
+    const int n = kernel.length();
     const Graph graph = kernel.graph();
     if (is_forward(kernel)) {
       EXPECT_EQ(complete_cosets(n, supports(graph)), forward.at(n)[0]) << kernel.name;
@@ -149,8 +149,8 @@ TEST(RealCounts, HartleyKernelsEqualTheTable) {
   for (const Kernel& kernel : hartley::kernels()) {
     const Graph graph = kernel.graph();
     const gen::Counts counts = gen::count_operations(graph);
-    EXPECT_EQ(counts.additions, std::stoi(table.at(kernel.length)[0])) << kernel.name;
-    EXPECT_EQ(counts.multiplications, std::stoi(table.at(kernel.length)[1])) << kernel.name;
+    EXPECT_EQ(counts.additions, std::stoi(table.at(kernel.length())[0])) << kernel.name;
+    EXPECT_EQ(counts.multiplications, std::stoi(table.at(kernel.length())[1])) << kernel.name;
     if (is_single(kernel)) {
       EXPECT_EQ(count_double_scaled(graph), 0) << kernel.name;
     }
@@ -170,9 +170,9 @@ TEST(RealCounts, ConversionsAreThoseStated) {
     });
     if (!is_single(kernel)) {
       EXPECT_EQ(conversions, 0) << kernel.name;
-    } else if (is_forward(kernel) && stated.contains(kernel.length)) {
+    } else if (is_forward(kernel) && stated.contains(kernel.length())) {
       if (count_double_scaled(graph) > 0) ++conversions;
-      EXPECT_EQ(conversions, stated.at(kernel.length)) << kernel.name;
+      EXPECT_EQ(conversions, stated.at(kernel.length())) << kernel.name;
       ++checked;
     }
   }

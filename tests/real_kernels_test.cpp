@@ -1,5 +1,4 @@
 // What the real kernels of one length have to do with one another.
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <quadmath.h>
 
@@ -7,30 +6,31 @@
 #include <cmath>
 #include <limits>
 
-#include "gen/manifest.h"
-#include "tests/harness/checks.h"
+#include "tests/graph_runs.h"
 
 namespace {
 
-using harness::Subject;
 using Values = std::vector<double>;
 
 // A kernel by its name, with _N_ for the length.
 class Kernels {
  public:
   Kernels() {
-    for (gen::Kernel& kernel : gen::all_kernels()) kernels_.emplace(kernel.name, kernel);
+    for (gen::Kernel& kernel : generate::all_kernels()) kernels_.emplace(kernel.name, kernel);
   }
 
-  Subject find(std::string name, int length) const {
+  GraphRuns find(std::string name, int length) const {
     name.replace(name.find("_N_"), 3, "_" + std::to_string(length) + "_");
-    void* function = dlsym(RTLD_DEFAULT, name.c_str());
-    return {kernels_.at(name), reinterpret_cast<harness::KernelFunction>(function)};
+    return GraphRuns(kernels_.at(name));
   }
 
  private:
   std::map<std::string, gen::Kernel> kernels_;
 };
+
+Values run(const GraphRuns& kernel, const Values& source, zulgScaleFlag flag) {
+  return kernel.run(source, flag);
+}
 
 Values pack_of_ccs(Values x, int n) {
   x.erase(x.begin() + 1);
@@ -49,7 +49,7 @@ class RealKernels : public testing::TestWithParam<std::string> {
     static const Kernels all;
     return all;
   }
-  Subject find(const std::string& name, int length) const {
+  GraphRuns find(const std::string& name, int length) const {
     return kernels().find(name + "_N_" + GetParam(), length);
   }
   double u() const { return GetParam() == "32f" ? 0x1p-24 : 0x1p-53; }
@@ -58,8 +58,8 @@ class RealKernels : public testing::TestWithParam<std::string> {
 TEST_P(RealKernels, LayoutsAreMovesOfOneAnother) {
   for (int n = 2; n <= 64; ++n) {
     for (const auto data : {harness::Data::kUniform, harness::Data::kNotFinite}) {
-      const Subject ccs = find("zulgDFTFwd_RToCCS", n);
-      const Values x = make_input(ccs, data, n);
+      const GraphRuns ccs = find("zulgDFTFwd_RToCCS", n);
+      const Values x = make_input(ccs.shape(), data, n);
       const Values spectrum = run(ccs, x, ZULG_SCALE_BY_SQRT_N);
       const Values pack = pack_of_ccs(spectrum, n), perm = perm_of_pack(pack);
       EXPECT_TRUE(
@@ -90,9 +90,10 @@ double tolerance(int n, double u) { return 2.9 * u * std::sqrt(n); }
 
 TEST_P(RealKernels, RoundTripsGiveTheInput) {
   for (int n = 2; n <= 64; ++n) {
-    const Subject forward = find("zulgDFTFwd_RToPerm", n), inverse = find("zulgDFTInv_PermToR", n);
-    const Subject hartley = find("zulgHartley", n);
-    const Values x = make_input(forward, harness::Data::kUniform, n);
+    const GraphRuns forward = find("zulgDFTFwd_RToPerm", n),
+                    inverse = find("zulgDFTInv_PermToR", n);
+    const GraphRuns hartley = find("zulgHartley", n);
+    const Values x = make_input(forward.shape(), harness::Data::kUniform, n);
     const double both = 2 * tolerance(n, u());
     for (const zulgScaleFlag flag :
          {ZULG_SCALE_FWD_BY_N, ZULG_SCALE_INV_BY_N, ZULG_SCALE_BY_SQRT_N}) {
@@ -106,7 +107,7 @@ TEST_P(RealKernels, RoundTripsGiveTheInput) {
 
 TEST_P(RealKernels, KnowImpulsesAndZeros) {
   for (int n = 2; n <= 64; ++n) {
-    const Subject forward = find("zulgDFTFwd_RToCCS", n), hartley = find("zulgHartley", n);
+    const GraphRuns forward = find("zulgDFTFwd_RToCCS", n), hartley = find("zulgHartley", n);
     Values x(n);
     // Sign flips subtract from +0.0.
     for (double value : run(forward, x, ZULG_SCALE_NONE)) EXPECT_FALSE(std::signbit(value)) << n;

@@ -11,6 +11,7 @@ namespace {
 
 using gen::Quad;
 using Values = std::vector<Quad>;
+using Source = std::vector<double>;
 
 // cos and sin of 2 pi i / n for i = 0..n - 1.
 struct Circle {
@@ -24,8 +25,7 @@ struct Circle {
   }
 };
 
-Values complex_dft(int n, int sign, const std::vector<double>& x) {
-  const Circle circle(n);
+Values complex_dft(int n, const Circle& circle, int sign, const Source& x) {
   Values y(2 * n);
   for (int k = 0; k < n; ++k) {
     for (int j = 0; j < n; ++j) {
@@ -37,8 +37,7 @@ Values complex_dft(int n, int sign, const std::vector<double>& x) {
   return y;
 }
 
-Values real_dft(int n, const std::vector<double>& x) {
-  const Circle circle(n);
+Values real_dft(int n, const Circle& circle, const Source& x) {
   Values y(n / 2 * 2 + 2);
   for (int k = 0; k <= n / 2; ++k) {
     for (int j = 0; j < n; ++j) {
@@ -51,8 +50,7 @@ Values real_dft(int n, const std::vector<double>& x) {
   return y;
 }
 
-Values inverse_real_dft(int n, const std::vector<double>& x) {
-  const Circle circle(n);
+Values inverse_real_dft(int n, const Circle& circle, const Source& x) {
   Values y(n);
   for (int j = 0; j < n; ++j) {
     y[j] = x[0];
@@ -65,8 +63,7 @@ Values inverse_real_dft(int n, const std::vector<double>& x) {
   return y;
 }
 
-Values hartley(int n, const std::vector<double>& x) {
-  const Circle circle(n);
+Values hartley(int n, const Circle& circle, const Source& x) {
   Values y(n);
   for (int k = 0; k < n; ++k) {
     for (int j = 0; j < n; ++j) y[k] += x[j] * (circle.cosine[j * k % n] + circle.sine[j * k % n]);
@@ -75,28 +72,28 @@ Values hartley(int n, const std::vector<double>& x) {
 }
 
 // By its fast algorithm: the definition would take too long, and has a test of its own.
-Values walsh_hadamard(int, const std::vector<double>& x) {
+Values walsh_hadamard(const Source& x) {
   return networks::walsh_hadamard(Values(x.begin(), x.end()));
 }
 
 }  // namespace
 
-harness::Reference of(const gen::Kernel& kernel) {
-  const int n = kernel.length;
-  const auto starts = [&](const char* prefix) { return kernel.name.starts_with(prefix); };
-  const auto with = [n](auto transform) {
-    return [=](const std::vector<double>& x) { return transform(n, x); };
-  };
-  if (starts("zulgDFTFwd_CToC")) {
-    return [n](const std::vector<double>& x) { return complex_dft(n, -1, x); };
+Reference of(const gen::Kernel& kernel) {
+  const int n = kernel.length();
+  const bool forward = kernel.direction == gen::Direction::kForward;
+  const Circle circle(kernel.transform == gen::Transform::kWalshHadamard ? 0 : n);
+  switch (kernel.transform) {
+    case gen::Transform::kComplexDft:
+      return [=](const Source& x) { return complex_dft(n, circle, forward ? -1 : 1, x); };
+    case gen::Transform::kRealDft:
+      if (kernel.layout != gen::Layout::kCcs) break;
+      if (forward) return [=](const Source& x) { return real_dft(n, circle, x); };
+      return [=](const Source& x) { return inverse_real_dft(n, circle, x); };
+    case gen::Transform::kHartley:
+      return [=](const Source& x) { return hartley(n, circle, x); };
+    case gen::Transform::kWalshHadamard:
+      return walsh_hadamard;
   }
-  if (starts("zulgDFTInv_CToC")) {
-    return [n](const std::vector<double>& x) { return complex_dft(n, 1, x); };
-  }
-  if (starts("zulgDFTFwd_RToCCS")) return with(real_dft);
-  if (starts("zulgDFTInv_CCSToR")) return with(inverse_real_dft);
-  if (starts("zulgHartley")) return with(hartley);
-  if (starts("zulgWHT")) return with(walsh_hadamard);
   throw std::invalid_argument("no definition of " + kernel.name);
 }
 

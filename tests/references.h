@@ -1,12 +1,18 @@
 // What the kernels compute, by definition, in quad precision with the compiler's own trigonometry.
 #pragma once
 
-#include "tests/harness/checks.h"
+#include <functional>
+#include <vector>
+
+#include "gen/kernel.h"
 
 namespace references {
 
-// The transform of a kernel of the manifest, told by its name. Packed spectra are CCS alone: the
-// other layouts are compared with that.
-harness::Reference of(const gen::Kernel& kernel);
+// The exact transform of an input, unscaled.
+using Reference = std::function<std::vector<gen::Quad>(const std::vector<double>& source)>;
+
+// The transform of a kernel of the manifest. Packed spectra are CCS alone: the other layouts are
+// compared with that.
+Reference of(const gen::Kernel& kernel);
 
 }  // namespace references

@@ -6,12 +6,6 @@ namespace {
 using gen::Kernel;
 using gen::Precision;
 
-// The order of the statements that measured fastest, by the order of the transform.
-constexpr const char* kOrders32f[] = {"",       "bisect 0", "bisect 5", "live 1",
-                                      "live 1", "bisect 8", "bisect 7", "bisect 19"};
-constexpr const char* kOrders64f[] = {"",         "bisect 0", "bisect 5", "bisect 9",
-                                      "bisect 9", "bisect 5", "bisect 0", "bisect 12"};
-
 gen::Bodies bodies(Precision precision, int order) {
   const bool single = precision == Precision::kSingle;
   if (order == 3 && !single) return gen::Bodies::kBothInside;
@@ -30,22 +24,14 @@ std::string recipe(const Plan& plan) {
 
 Kernel kernel(Precision precision, int order) {
   const bool single = precision == Precision::kSingle;
-  const std::string suffix = single ? "_32f" : "_64f";
-  Kernel kernel;
-  kernel.name = "zulgWHT_" + std::to_string(order) + suffix;
-  kernel.family = "wht" + suffix;
-  kernel.length = 1 << order;
-  kernel.precision = precision;
-  kernel.scale_rule = gen::ScaleRule::kBoth;
-  kernel.source_type = kernel.destination_type = "zulg" + suffix.substr(1);
-  kernel.source_elements = kernel.destination_elements = kernel.length;
+  Kernel kernel = gen::kernel_of({gen::Transform::kWalshHadamard, gen::Direction::kSelfInverse,
+                                  gen::Layout::kNone, precision, order});
   kernel.bodies = bodies(precision, order);
   kernel.has_work_argument = true;
   kernel.loads_halves = true;
   kernel.is_generated = order <= kLastShortOrder;
   if (kernel.is_generated) {
     kernel.recipe = "stages 0 to " + std::to_string(order - 1);
-    kernel.order = gen::parse_order((single ? kOrders32f : kOrders64f)[order]);
   } else {
     kernel.recipe = recipe(single ? plan_of<float>(order) : plan_of<double>(order));
   }

@@ -35,11 +35,13 @@ ZULGEN_INLINE zulgResult transform(const T* source, T* destination, zulgScaleFla
   }                                                                                        \
   ZULGEN_EXPORT zulgResult zulgWHT_##order##_##type(                                       \
       const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
-    if (!is_aligned(source, destination, &source)) {                                       \
+    if (!ZULGEN_IS_ALIGNED(source, destination)) {                                         \
       return owngWHT_##order##_##type##_unaligned(source, destination, flag, work);        \
     }                                                                                      \
     return transform<zulg##type, order, Aligned>(source, destination, flag, work);         \
-  }
+  }                                                                                        \
+  ZULGEN_HIDDEN_NAME(zulgWHT_##order##_##type) zulgResult owngWHT_##order##_##type(        \
+      const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work);
 
 ZULGEN_WHT(8, 32f)
 ZULGEN_WHT(9, 32f)

@@ -3,27 +3,27 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "gen/manifest.h"
+#include "generate/manifest.h"
 
 namespace pages {
 namespace {
 
-std::string kernel_name(Transform transform, int length, gen::Precision precision) {
-  const bool single = precision == gen::Precision::kSingle;
-  const auto name = [&](const char* stem, const char* form) {
-    return stem + std::to_string(length) + (single ? "_32f" : "_64f") + form;
+gen::Signature signature_of(Transform transform, int length, gen::Precision precision) {
+  using gen::Direction, gen::Layout;
+  const auto of = [&](gen::Transform transform, Direction direction, Layout layout) {
+    return gen::Signature{transform, direction, layout, precision, length};
   };
   switch (transform) {
     case Transform::kComplexForward:
-      return name("zulgDFTFwd_CToC_", "c");
+      return of(gen::Transform::kComplexDft, Direction::kForward, Layout::kNone);
     case Transform::kComplexInverse:
-      return name("zulgDFTInv_CToC_", "c");
+      return of(gen::Transform::kComplexDft, Direction::kInverse, Layout::kNone);
     case Transform::kRealForward:
-      return name("zulgDFTFwd_RToCCS_", "");
+      return of(gen::Transform::kRealDft, Direction::kForward, Layout::kCcs);
     case Transform::kRealInverse:
-      return name("zulgDFTInv_CCSToR_", "");
+      return of(gen::Transform::kRealDft, Direction::kInverse, Layout::kCcs);
     default:
-      return name("zulgHartley_", "");
+      return of(gen::Transform::kHartley, Direction::kSelfInverse, Layout::kNone);
   }
 }
 
@@ -67,16 +67,16 @@ Catalogue make_catalogue(Figures figures) {
   Catalogue catalogue;
   catalogue.figures = std::move(figures);
   std::map<std::string, gen::Kernel> kernels;
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
+  for (const gen::Kernel& kernel : generate::all_kernels()) {
     kernels[kernel.name] = kernel;
-    if (kernel.family.starts_with("wht")) {
+    if (kernel.transform == gen::Transform::kWalshHadamard) {
       catalogue.walsh_hadamard.push_back(entry_of(kernel, catalogue.figures));
     }
   }
   for (int length = 2; length <= 64; ++length) {
     for (const Transform transform : kTransforms) {
       for (const gen::Precision precision : kPrecisions) {
-        const std::string name = kernel_name(transform, length, precision);
+        const std::string name = name_of(signature_of(transform, length, precision));
         const auto kernel = kernels.find(name);
         if (kernel == kernels.end()) throw std::runtime_error("no kernel is called " + name);
         catalogue.by_length[length].emplace(Key(transform, precision),
@@ -84,7 +84,7 @@ Catalogue make_catalogue(Figures figures) {
       }
     }
   }
-  const std::vector<std::string> exported = gen::exported_functions();
+  const std::vector<std::string> exported = generate::exported_functions();
   catalogue.has_dct4 =
       std::find(exported.begin(), exported.end(), "zulgDCT4_32f") != exported.end();
   return catalogue;

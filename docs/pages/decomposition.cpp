@@ -89,7 +89,7 @@ Branch hartley_branch(int length) {
 }  // namespace
 
 Branch decomposition(Transform transform, const gen::Kernel& kernel) {
-  if (transform == Transform::kHartley) return hartley_branch(kernel.length);
+  if (transform == Transform::kHartley) return hartley_branch(kernel.length());
   const bool real = transform == Transform::kRealForward || transform == Transform::kRealInverse;
   const bool single = kernel.precision == gen::Precision::kSingle;
   const RaderTable& table = real     ? dft_real::kRader
@@ -97,7 +97,7 @@ Branch decomposition(Transform transform, const gen::Kernel& kernel) {
                                      : dft_complex::kRader64fc;
   Branch branch = Reader(table).read(networks::parse_tree(kernel.recipe));
   // The tree of a chirp doesn't tell the length of the transform.
-  branch.length = kernel.length;
+  branch.length = kernel.length();
   return branch;
 }
 

@@ -17,14 +17,13 @@ std::string kernel_table(const std::map<Key, Entry>& entries) {
     for (const Precision precision : kPrecisions) {
       const Entry& entry = entries.at({transform, precision});
       rows += table_row(
-          {title(transform), title(precision), "<code>" + entry.kernel.name + "</code>",
-           "<code>" + gen::to_string(entry.kernel.order) + "</code>"},
+          {title(transform), title(precision), "<code>" + entry.kernel.name + "</code>"},
           {std::to_string(entry.counts.additions), std::to_string(entry.counts.multiplications),
            shown(entry.error, 2), shown(entry.speed.cycles, 1), shown(entry.speed.ratio, 2)});
     }
   }
   return table(
-      "<tr><th>Transform</th><th>Precision</th><th>Kernel</th><th>Order</th>"
+      "<tr><th>Transform</th><th>Precision</th><th>Kernel</th>"
       "<th class=\"n\">Additions</th><th class=\"n\">Multipli&#173;cations</th>"
       "<th class=\"n\">Error, u</th><th class=\"n\">Cycles</th><th class=\"n\">FFTW / ours</th>"
       "</tr>",
@@ -84,7 +83,7 @@ bool has_rader(const Branch& branch) {
 
 std::string flow_figure(const Entry& entry, const Picture& picture) {
   const std::string& kernel = entry.kernel.name;
-  const std::string file = flow_picture_name(entry.kernel.length);
+  const std::string file = flow_picture_name(entry.kernel.length());
   std::string constants;
   if (entry.counts.multiplications > 0) constants += " cos 1/12 is the cosine of 1/12 of a turn.";
   if (has_rader(decomposition(Transform::kRealForward, entry.kernel))) {
@@ -127,8 +126,7 @@ std::string length_page(const Catalogue& catalogue, int length, const Picture& f
       "<h1>" + heading + " <small>" + (is_prime(length) ? "prime" : factors(length)) +
           "</small></h1>\n" + kernel_table(entries) +
           "<p class=\"note\">Operations are on real numbers; error and cycles are <a "
-          "href=\"index.html#figures\">measured</a>. Order names the order of the statements that "
-          "came out fastest: a strategy and one of its variants. The Pack and Perm layouts of the "
+          "href=\"index.html#figures\">measured</a>. The Pack and Perm layouts of the "
           "real transforms have the arithmetic of CCS. Multiplications of the inverse ones include "
           "the "
           "doubling of parts that stand for two bins.</p>\n"

@@ -10,7 +10,7 @@ std::string walsh_hadamard(const std::vector<Entry>& entries) {
   for (const Entry& entry : entries) {
     rows += table_row(
         {"<code>" + entry.kernel.name + "</code>", escaped(entry.kernel.recipe)},
-        {std::to_string(entry.kernel.length), std::to_string(entry.counts.additions),
+        {std::to_string(entry.kernel.length()), std::to_string(entry.counts.additions),
          shown(entry.error, 2), shown(entry.speed.cycles, 0), shown(entry.speed.ratio, 2)});
   }
   return "<h2>Walsh-Hadamard transform</h2>\n"

@@ -6,8 +6,9 @@
 #include <cstdint>
 #include <limits>
 
-#include "gen/manifest.h"
+#include "convention.h"  // the target's
 #include "tests/harness/checks.h"
+#include "tests/harness/digest.h"
 
 namespace harness {
 namespace {
@@ -34,7 +35,7 @@ void correct(const volatile float* x, volatile float* y, float s) {
 
 // The macro makes a plain function of the arithmetic that stands behind it.
 #define KERNEL(name, ...)                                                             \
-  zulgResult name(const void* source, void* destination, zulgScaleFlag flag) {        \
+  zulgResult name(const void* source, void* destination, zulgScaleFlag flag, void*) { \
     return dft2(source, destination, flag,                                            \
                 [](const volatile float* x, volatile float* y, float s) __VA_ARGS__); \
   }
@@ -93,69 +94,49 @@ KERNEL(leaves_x87_value, {
   correct(x, y, s);
   asm volatile("fld1");
 })
-KERNEL(wants_aligned_stack, {
-  correct(x, y, s);
-  asm volatile("mov 4(%%ebp), %%eax\n lea 8(%%ebp), %%eax\n movaps (%%eax), %%xmm0"
-               :
-               :
-               : "eax", "xmm0");
-})
-KERNEL(imprecise, {
-  float rough[4];
-  for (int i = 0; i < 4; ++i) rough[i] = std::round(x[i] * 4096) / 4096;
-  correct(rough, y, s);
-})
-
-zulgResult takes_null_as_ok(const void* source, void* destination, zulgScaleFlag flag) {
-  return source == nullptr ? ZULG_OK : good(source, destination, flag);
+zulgResult takes_null_as_ok(const void* source, void* destination, zulgScaleFlag flag, void* work) {
+  return source == nullptr ? ZULG_OK : good(source, destination, flag, work);
 }
-zulgResult flag_before_pointers(const void* source, void* destination, zulgScaleFlag flag) {
+zulgResult flag_before_pointers(const void* source, void* destination, zulgScaleFlag flag,
+                                void* work) {
   if (flag != 1 && flag != 2 && flag != 4 && flag != 8) return ZULG_ERR_FLAG;
-  return good(source, destination, flag);
+  return good(source, destination, flag, work);
 }
-zulgResult flags_are_bits(const void* source, void* destination, zulgScaleFlag flag) {
-  return good(source, destination, flag & 8 ? 8 : flag);
+zulgResult flags_are_bits(const void* source, void* destination, zulgScaleFlag flag, void* work) {
+  return good(source, destination, flag & 8 ? 8 : flag, work);
 }
-zulgResult writes_on_error(const void* source, void* destination, zulgScaleFlag flag) {
-  const zulgResult result = good(source, destination, flag);
+zulgResult writes_on_error(const void* source, void* destination, zulgScaleFlag flag, void* work) {
+  const zulgResult result = good(source, destination, flag, work);
   if (result == ZULG_ERR_FLAG) *static_cast<float*>(destination) = 0;
   return result;
 }
 
-// good, and then a register that belongs to the caller.
-extern "C" zulgResult clobbers_register(const void* source, void* destination, zulgScaleFlag flag);
-extern "C" zulgResult call_good(const void* source, void* destination, zulgScaleFlag flag) {
-  return good(source, destination, flag);
+// In broken.S: good, and then a register that belongs to the caller; good, on a stack that has to
+// be aligned.
+extern "C" zulgResult clobbers_register(const void* source, void* destination, zulgScaleFlag flag,
+                                        void* work);
+extern "C" zulgResult wants_aligned_stack(const void* source, void* destination, zulgScaleFlag flag,
+                                          void* work);
+extern "C" zulgResult call_good(const void* source, void* destination, zulgScaleFlag flag,
+                                void* work) {
+  return good(source, destination, flag, work);
 }
-asm(R"(
-        .globl clobbers_register
-clobbers_register:
-        push 12(%esp)
-        push 12(%esp)
-        push 12(%esp)
-        call call_good
-        add $12, %esp
-        mov $7, %esi
-        ret
-)");
 
 Subject subject_of(KernelFunction function) {
-  for (const gen::Kernel& kernel : gen::all_kernels()) {
-    if (kernel.name == "zulgDFTFwd_CToC_2_32fc") return {kernel, function};
-  }
-  throw std::logic_error("the manifest has lost the shortest kernel");
+  return {{{"zulgDFTFwd_CToC_2_32fc", sizeof(float), 4, 4}}, function};
 }
 
-std::vector<gen::Quad> exact(const std::vector<double>& x) {
-  return {gen::Quad(x[0]) + x[2], gen::Quad(x[1]) + x[3], gen::Quad(x[0]) - x[2],
-          gen::Quad(x[1]) - x[3]};
+// The bits that all of them should have.
+Findings check_bits(const Subject& subject) {
+  static const std::string digest = digest_of_results(subject_of(good));
+  return check_bits(subject, digest);
 }
 
 TEST(Harness, PassesACorrectKernel) {
   const Subject subject = subject_of(good);
-  EXPECT_LT(relative_error(subject, exact), 1.0);
+  EXPECT_EQ(digest_of_results(subject), read_digests(DIGESTS).at(subject.name));
   for (const auto check :
-       {check_bits, check_alignment, check_memory, check_arguments, check_calling_convention}) {
+       {check_alignment, check_memory, check_arguments, check_calling_convention}) {
     EXPECT_EQ(check(subject), Findings{});
   }
 }
@@ -185,12 +166,13 @@ TEST(Harness, FindsEveryBrokenKernel) {
       {"clobbers_register", clobbers_register, check_calling_convention},
       {"flushes_subnormals", flushes_subnormals, check_calling_convention},
       {"leaves_x87_value", leaves_x87_value, check_calling_convention},
-      {"wants_aligned_stack", wants_aligned_stack, check_calling_convention},
   };
   for (const Case& broken : cases) {
     EXPECT_FALSE(broken.check(subject_of(broken.function)).empty()) << broken.name;
   }
-  EXPECT_GT(relative_error(subject_of(imprecise), exact), 10.0);
+  // Where the stack is aligned at every call, nobody can tell.
+  EXPECT_EQ(check_calling_convention(subject_of(wants_aligned_stack)).empty(),
+            std::size(kStackOffsets) == 1);
 }
 
 }  // namespace

@@ -1,25 +1,18 @@
-// What every kernel of every family has to stand: written once, told by the manifest.
+// What every compiled kernel has to stand.
 #pragma once
-
-#include <functional>
 
 #include "tests/harness/subject.h"
 
 namespace harness {
 
-// The exact transform of an input, unscaled, in quad precision.
-using Reference = std::function<std::vector<gen::Quad>(const std::vector<double>& source)>;
-
-// Relative L2 error over many uniform inputs, in units of the precision's rounding error u (2^-24
-// or 2^-53).
-double relative_error(const Subject& subject, const Reference& reference);
-
 // The destination after a call with aligned arrays.
 std::vector<double> run(const Subject& subject, const std::vector<double>& source,
                         zulgScaleFlag flag);
 
-// Equal bit for bit to its own data flow, interpreted, under every flag and on every kind of data.
-Findings check_bits(const Subject& subject);
+// What it computes, as digest.h tells it.
+std::string digest_of_results(const Subject& subject);
+// Equal to the digest of what it should compute.
+Findings check_bits(const Subject& subject, const std::string& digest);
 
 // The same bits whatever the alignment of either array, and with one array for both.
 Findings check_alignment(const Subject& subject);

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <stdexcept>
 
 namespace harness {
@@ -22,7 +23,7 @@ void on_fault(int) { siglongjmp(fault_return, 1); }
 
 GuardedArray::GuardedArray(std::size_t bytes) {
   const std::size_t page = page_size();
-  size_ = (bytes + 16 + page - 1) / page * page;
+  size_ = (bytes + 32 + page - 1) / page * page;
   void* all = mmap(nullptr, size_ + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (all == MAP_FAILED) throw std::runtime_error("no memory for a guarded array");
   data_ = static_cast<char*>(all) + page;
@@ -33,7 +34,7 @@ GuardedArray::~GuardedArray() { munmap(data_ - page_size(), size_ + 2 * page_siz
 
 char* GuardedArray::at_end(std::size_t bytes, unsigned offset) const {
   char* array = data_ + size_ - bytes;
-  return array - (reinterpret_cast<std::uintptr_t>(array) - offset) % 16;
+  return array - (reinterpret_cast<std::uintptr_t>(array) - offset) % 32;
 }
 
 void GuardedArray::fill(unsigned char pattern) { std::memset(data_, pattern, size_); }
@@ -53,14 +54,17 @@ void GuardedArray::set_writable(bool writable) {
 }
 
 bool runs_without_fault(const std::function<void()>& action) {
-  struct sigaction handler = {}, old_segv, old_bus;
+  constexpr int kFaults[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE};
+  struct sigaction handler = {}, before[std::size(kFaults)];
   handler.sa_handler = on_fault;
-  sigaction(SIGSEGV, &handler, &old_segv);
-  sigaction(SIGBUS, &handler, &old_bus);
+  for (std::size_t i = 0; i < std::size(kFaults); ++i) sigaction(kFaults[i], &handler, &before[i]);
+  // What is run may run something in this way itself.
+  sigjmp_buf outer_return;
+  std::memcpy(&outer_return, &fault_return, sizeof outer_return);
   const bool fault = sigsetjmp(fault_return, 1) != 0;
   if (!fault) action();
-  sigaction(SIGSEGV, &old_segv, nullptr);
-  sigaction(SIGBUS, &old_bus, nullptr);
+  std::memcpy(&fault_return, &outer_return, sizeof outer_return);
+  for (std::size_t i = 0; i < std::size(kFaults); ++i) sigaction(kFaults[i], &before[i], nullptr);
   return !fault;
 }
 

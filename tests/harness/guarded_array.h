@@ -13,7 +13,7 @@ class GuardedArray {
   GuardedArray(const GuardedArray&) = delete;
   GuardedArray& operator=(const GuardedArray&) = delete;
 
-  // The `bytes` bytes as near to the upper page as an address of offset modulo 16 gets, or as near
+  // The `bytes` bytes as near to the upper page as an address of offset modulo 32 gets, or as near
   // to the lower one.
   char* at_end(std::size_t bytes, unsigned offset) const;
   char* at_begin(unsigned offset) const { return data_ + offset; }
@@ -29,7 +29,8 @@ class GuardedArray {
   std::size_t size_;
 };
 
-// Runs `action`; false if it touches memory that it may not.
+// Runs `action`; false if it touches memory that it may not, or does anything else that a processor
+// refuses.
 bool runs_without_fault(const std::function<void()>& action);
 
 }  // namespace harness

@@ -1,18 +1,18 @@
-#include "gen/manifest.h"
+#include "generate/manifest.h"
 
 #include <algorithm>
 
 #include "dct4/kernels/kernels.h"
 #include "dft_complex/dft_complex.h"
 #include "dft_real/dft_real.h"
-#include "gen/dispatch.h"
+#include "generate/dispatch.h"
 #include "hartley/hartley.h"
 #include "wht/wht.h"
 
-namespace gen {
+namespace generate {
 
-std::vector<Kernel> all_kernels() {
-  std::vector<Kernel> result;
+std::vector<gen::Kernel> all_kernels() {
+  std::vector<gen::Kernel> result;
   for (const auto& family :
        {dft_complex::kernels(), dft_real::kernels(), hartley::kernels(), wht::kernels()}) {
     result.insert(result.end(), family.begin(), family.end());
@@ -20,10 +20,10 @@ std::vector<Kernel> all_kernels() {
   return result;
 }
 
-std::vector<Body> all_bodies() { return dct4::bodies(); }
+std::vector<gen::Body> all_bodies() { return dct4::bodies(); }
 
 std::map<std::string, std::string> body_headers() {
-  std::map<std::string, std::string> headers = headers_of_bodies(all_bodies());
+  std::map<std::string, std::string> headers = gen::headers_of_bodies(all_bodies());
   headers["wht_bodies.h"] = wht::body_header();
   return headers;
 }
@@ -31,12 +31,12 @@ std::map<std::string, std::string> body_headers() {
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion", "zulgWHTGetBufferSize_32f",
                                     "zulgWHTGetBufferSize_64f"};
-  const std::vector<Kernel> kernels = all_kernels();
-  for (const Kernel& kernel : kernels) names.push_back(kernel.name);
+  const std::vector<gen::Kernel> kernels = all_kernels();
+  for (const gen::Kernel& kernel : kernels) names.push_back(kernel.name);
   for (const DispatchEntry& entry : dispatch_entries(kernels)) names.push_back(entry.name);
   for (const std::string& name : dct4::entries()) names.push_back(name);
   std::sort(names.begin(), names.end());
   return names;
 }
 
-}  // namespace gen
+}  // namespace generate

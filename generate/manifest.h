@@ -8,12 +8,12 @@
 #include "gen/body.h"
 #include "gen/kernel.h"
 
-namespace gen {
+namespace generate {
 
-std::vector<Kernel> all_kernels();
+std::vector<gen::Kernel> all_kernels();
 
 // The arithmetic of what is written by hand in terms of accessors.
-std::vector<Body> all_bodies();
+std::vector<gen::Body> all_bodies();
 
 // The headers of generated bodies that code written by hand includes, by name.
 std::map<std::string, std::string> body_headers();
@@ -21,4 +21,4 @@ std::map<std::string, std::string> body_headers();
 // The kernels, their dispatch entries and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();
 
-}  // namespace gen
+}  // namespace generate

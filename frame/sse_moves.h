@@ -1,0 +1,15 @@
+// Lane moves that are written in their own way for SSE.
+#pragma once
+
+#include <pmmintrin.h>
+
+namespace zulgen {
+
+// The low half of `low` and the high half of `high`. Written out, as compilers would take the load
+// that often stands before it into a movhps, which runs on the one port that all shuffles want.
+inline __m128d join_halves(__m128d low, __m128d high) {
+  asm("movsd %1, %0" : "+x"(high) : "x"(low));
+  return high;
+}
+
+}  // namespace zulgen

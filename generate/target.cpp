@@ -1,0 +1,78 @@
+#include "generate/target.h"
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+
+#include "generate/manifest.h"
+
+namespace generate {
+namespace {
+
+std::string row_name(gen::Signature signature) {
+  if (signature.layout != gen::Layout::kNone) signature.layout = gen::Layout::kCcs;
+  return name_of(signature);
+}
+
+std::string read_file(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream text;
+  text << file.rdbuf();
+  if (!file) throw std::runtime_error("can't read " + path);
+  return text.str();
+}
+
+std::set<std::string> wanted_rows() {
+  std::set<std::string> names;
+  for (const gen::Kernel& kernel : all_kernels()) {
+    if (kernel.is_generated) names.insert(row_name(kernel));
+  }
+  return names;
+}
+
+// Lines of a name and an order; those that begin with # are comments.
+std::map<std::string, gen::Order> read_orders(const std::string& path) {
+  std::istringstream lines(read_file(path));
+  std::set<std::string> missing = wanted_rows();
+  std::map<std::string, gen::Order> orders;
+  std::string line;
+  for (int number = 1; std::getline(lines, line); ++number) {
+    if (line.empty() || line[0] == '#') continue;
+    const std::size_t blank = line.find(' ');
+    const std::string name = line.substr(0, blank);
+    const auto fail = [&](const std::string& what) {
+      throw std::runtime_error(path + ":" + std::to_string(number) + ": " + what);
+    };
+    if (missing.erase(name) == 0) fail("no kernel, or a second row of it: " + name);
+    const std::size_t order = line.find_first_not_of(' ', blank);
+    if (order == std::string::npos) fail("no order");
+    try {
+      orders[name] = gen::parse_order(line.substr(order));
+    } catch (const std::invalid_argument& error) {
+      fail(error.what());
+    }
+  }
+  if (!missing.empty()) throw std::runtime_error(path + ": no row of " + *missing.begin());
+  return orders;
+}
+
+}  // namespace
+
+gen::Order Target::order_of(const gen::Kernel& kernel) const {
+  const auto row = orders.find(row_name(kernel));
+  if (row == orders.end()) throw std::runtime_error(name + " has no row of " + kernel.name);
+  return row->second;
+}
+
+Target read_target(const std::string& folder, const std::string& architecture_folder) {
+  const auto find = [&](const std::string& file) {
+    const std::string own = folder + "/" + file;
+    return std::filesystem::exists(own) ? own : architecture_folder + "/" + file;
+  };
+  return {std::filesystem::path(folder).filename(), read_file(find("entry.s.in")),
+          read_orders(find("kernels.txt"))};
+}
+
+}  // namespace generate

@@ -1,0 +1,27 @@
+// A machine that the library is written for, as its folder under targets/ describes it.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "gen/kernel.h"
+
+namespace generate {
+
+struct Target {
+  std::string name;  // of the folder
+  // entry.s.in: the assembly of an entry that takes a length at run time.
+  std::string entry;
+  // kernels.txt: how each kernel is written down, by name. A real kernel's row, that of its CCS
+  // layout, stands for all layouts.
+  std::map<std::string, gen::Order> orders;
+
+  // Throws std::runtime_error if there is no row.
+  gen::Order order_of(const gen::Kernel& kernel) const;
+};
+
+// A level of an architecture has a folder of its own, and what isn't there is the architecture's.
+// Throws std::runtime_error that names the file and the line if something is missing or wrong.
+Target read_target(const std::string& folder, const std::string& architecture_folder);
+
+}  // namespace generate

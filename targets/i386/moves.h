@@ -1,0 +1,4 @@
+// Lane moves.
+#pragma once
+
+#include "frame/sse_moves.h"

@@ -1,0 +1,102 @@
+// How near every kernel's data flow comes to the definition of its transform. Compiled kernels have
+// the bits of their data flows, so this holds for all of them.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+
+#include "tests/graph_runs.h"
+#include "tests/references.h"
+
+namespace {
+
+int largest_prime_factor(int n) {
+  int largest = 1;
+  for (int p = 2; n > 1; ++p) {
+    for (; n % p == 0; n /= p) largest = p;
+  }
+  return largest;
+}
+
+// The largest relative L2 error over random inputs, in units of u. A stage of short blocks rounds
+// every value about three times, at 0.4 u each and independently: 0.7 u a stage, and up to four
+// stages in a composite length. Rader's form has the stages of the length below twice, and a
+// product between them; at 47 and 59 it is nested in itself, or the chirp form takes twice the
+// stages of a length above the double. On real data, single precision keeps the sums of products in
+// double and rounds every value about twice a stage: 0.5 u.
+double error_bound(const gen::Kernel& kernel) {
+  const int n = kernel.length(), prime = largest_prime_factor(n);
+  // A stage rounds every value once, by an error that is spread evenly over 2 u times a power of
+  // two below the value: at most u / sqrt(3) of it on average. Errors of stages add up in squares.
+  if (kernel.transform == gen::Transform::kWalshHadamard) return std::sqrt(std::log2(n) / 3);
+  const bool is_complex = kernel.transform == gen::Transform::kComplexDft;
+  const bool sums_are_double = !is_complex && kernel.is_single();
+  if (prime <= 11 && (n != prime || prime <= 5)) return sums_are_double ? 1.5 : 1.7;
+  if (sums_are_double) return 2.0;
+  if (n == 47 || n == 59) return 4.0;
+  return n == prime ? 2.5 : 2.25;
+}
+
+// Over many uniform inputs, in units of the precision's rounding error u (2^-24 or 2^-53).
+double relative_error(const gen::Kernel& kernel) {
+  constexpr int kInputs = 100;
+  const GraphRuns graph(kernel);
+  const references::Reference reference = references::of(kernel);
+  gen::Quad error = 0, norm = 0;
+  for (unsigned seed = 0; seed < kInputs; ++seed) {
+    const std::vector<double> input = make_input(graph.shape(), harness::Data::kUniform, seed);
+    const std::vector<double> output = graph.run(input, ZULG_SCALE_NONE);
+    const std::vector<gen::Quad> exact = reference(input);
+    for (std::size_t i = 0; i < exact.size(); ++i) {
+      error += (output[i] - exact[i]) * (output[i] - exact[i]);
+      norm += exact[i] * exact[i];
+    }
+  }
+  return std::sqrt(static_cast<double>(error / norm)) / (kernel.is_single() ? 0x1p-24 : 0x1p-53);
+}
+
+// Kernels by whose definition the others of their family are defined.
+std::vector<gen::Kernel> defined_kernels() {
+  std::vector<gen::Kernel> result = generate::all_kernels();
+  std::erase_if(result, [](const gen::Kernel& kernel) {
+    return kernel.layout == gen::Layout::kPack || kernel.layout == gen::Layout::kPerm;
+  });
+  return result;
+}
+
+// Every error goes to error.csv beside the tests' programs, for the table of figures.
+TEST(Kernels, AreAccurate) {
+  std::ofstream csv("error.csv");
+  csv << "kernel,error_in_u\n";
+  for (const gen::Kernel& kernel : defined_kernels()) {
+    const double error = relative_error(kernel);
+    EXPECT_LE(error, error_bound(kernel)) << kernel.name;
+    csv << kernel.name << "," << error << "\n";
+  }
+}
+
+// In Rader's form x[0] reaches every other bin through one addition, and the direct forms add it as
+// it stands: an impulse there comes out unrounded. A constant cancels only up to rounding.
+TEST(Kernels, KnowImpulsesAndConstants) {
+  for (const gen::Kernel& kernel : generate::all_kernels()) {
+    if (kernel.transform != gen::Transform::kComplexDft) continue;
+    const GraphRuns graph(kernel);
+    const double u = kernel.is_single() ? 0x1p-24 : 0x1p-53, n = kernel.length();
+    const double tolerance = kernel.recipe.starts_with("chirp") ? 8 * u : 0;
+    std::vector<double> source(2 * kernel.length()), destination;
+    source[0] = 1;
+    destination = graph.run(source, ZULG_SCALE_NONE);
+    for (int k = 0; k < kernel.length(); ++k) {
+      EXPECT_NEAR(destination[2 * k], 1, tolerance) << kernel.name << " " << k;
+      EXPECT_NEAR(destination[2 * k + 1], 0, tolerance) << kernel.name << " " << k;
+    }
+    for (int i = 0; i < kernel.length(); ++i) source[2 * i] = 0.75;
+    destination = graph.run(source, ZULG_SCALE_NONE);
+    EXPECT_NEAR(destination[0], 0.75 * n, 4 * n * u) << kernel.name;
+    for (std::size_t i = 1; i < destination.size(); ++i) {
+      EXPECT_NEAR(destination[i], 0, 4 * n * u) << kernel.name;
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,37 @@
+// Calls of a kernel by way of its data flow, interpreted: what every compiled form of it computes.
+#pragma once
+
+#include <cmath>
+
+#include "gen/interpret.h"
+#include "generate/manifest.h"
+#include "tests/harness/subject.h"
+
+class GraphRuns {
+ public:
+  explicit GraphRuns(const gen::Kernel& kernel) : kernel_(kernel), graph_(kernel.graph()) {}
+
+  harness::Shape shape() const {
+    return {{kernel_.name, kernel_.is_single() ? 4 : 8, kernel_.source_elements,
+             kernel_.destination_elements}};
+  }
+
+  // The destination.
+  std::vector<double> run(const std::vector<double>& source, zulgScaleFlag flag) const {
+    return gen::interpret(graph_, source, factor(flag));
+  }
+
+  // The factor that the flag selects.
+  double factor(zulgScaleFlag flag) const {
+    const double n = kernel_.length();
+    const bool by_n =
+        (flag == ZULG_SCALE_FWD_BY_N && kernel_.direction != gen::Direction::kInverse) ||
+        (flag == ZULG_SCALE_INV_BY_N && kernel_.direction != gen::Direction::kForward);
+    const double factor = flag == ZULG_SCALE_BY_SQRT_N ? 1.0 / std::sqrt(n) : by_n ? 1.0 / n : 1.0;
+    return kernel_.is_single() ? static_cast<float>(factor) : factor;
+  }
+
+ private:
+  gen::Kernel kernel_;
+  gen::Graph graph_;
+};
