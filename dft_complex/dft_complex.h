@@ -21,14 +21,14 @@ struct Row32fc {
 extern const std::vector<Row32fc> kRows32fc;
 inline constexpr int kLastScalarLength = 5;  // longer ones have two samples a vector
 // Leaves of trees in Rader's form.
-extern const networks::RaderTable kRader32fc;
+const networks::RaderTable& rader_32fc();
 
 struct Row64fc {
   int length;
   const char* tree;
 };
 extern const std::vector<Row64fc> kRows64fc;
-extern const networks::RaderTable kRader64fc;
+const networks::RaderTable& rader_64fc();
 
 // Forward and inverse kernels of all lengths.
 std::vector<gen::Kernel> kernels();

@@ -4,6 +4,7 @@
 #include "gen/precision.h"
 #include "gen/rewrite.h"
 #include "networks/one_sample.h"
+#include "networks/row_checks.h"
 
 namespace dft_complex {
 namespace {
@@ -32,10 +33,10 @@ Graph scalar_graph(const Tree& tree, Direction direction) {
 }
 
 // The answers that a row's text gives.
-TwoSamples::Plan parse_plan(const std::string& text) {
+TwoSamples::Plan parse_plan(const networks::RowPlace& place, const std::string& text) {
   TwoSamples::Plan plan;
   for (const char answer : text) {
-    if (answer != '0' && answer != '1') throw std::invalid_argument("not a plan: " + text);
+    if (answer != '0' && answer != '1') place.fail("not a plan: " + text);
     plan.push_back(answer == '1');
   }
   return plan;
@@ -58,16 +59,19 @@ Graph arranged_graph(const Row32fc& row, Direction direction, TwoSamples::Plan& 
 
 std::vector<Kernel> kernels_32fc() {
   std::vector<Kernel> result;
+  const char* const table = "dft_complex/rows_32fc.cpp";
+  networks::check_lengths(table, kRows32fc);
   for (const Row32fc& row : kRows32fc) {
+    const networks::RowPlace place = {table, row.length};
+    const Tree tree = networks::tree_of_row(place, row.tree, rader_32fc());
     for (const Direction direction : kDirections) {
       Kernel kernel = describe(row.length, gen::Precision::kSingle, row.tree, direction);
       const bool scalar = row.length <= kLastScalarLength;
       kernel.bodies = scalar ? gen::Bodies::kOne : gen::Bodies::kTwin;
       const bool forward = direction == Direction::kForward;
-      TwoSamples::Plan plan = parse_plan(forward ? row.forward_plan : row.inverse_plan);
-      kernel.graph = [row, scalar, direction, plan]() mutable {
-        return scalar ? scalar_graph(networks::parse_tree(row.tree), direction)
-                      : arranged_graph(row, direction, plan);
+      TwoSamples::Plan plan = parse_plan(place, forward ? row.forward_plan : row.inverse_plan);
+      kernel.graph = [row, tree, scalar, direction, plan]() mutable {
+        return scalar ? scalar_graph(tree, direction) : arranged_graph(row, direction, plan);
       };
       result.push_back(std::move(kernel));
     }

@@ -3,6 +3,7 @@
 #include "dft_complex/dft_complex.h"
 #include "gen/rewrite.h"
 #include "networks/complex_leaves.h"
+#include "networks/row_checks.h"
 
 namespace dft_complex {
 namespace {
@@ -25,7 +26,7 @@ Graph graph_of(const Tree& tree, Direction direction) {
   }
   graph.begin_stage({"a", "real transform of both lanes"});
   networks::Bins<SamplePair> bins;
-  for (const auto& bin : networks::RealDft<gen::Expr>(kRader64fc).real(tree, samples)) {
+  for (const auto& bin : networks::RealDft<gen::Expr>(rader_64fc()).real(tree, samples)) {
     bins.push_back({{bin.re}, {bin.im}});
   }
   graph.begin_stage({"b", "lanes joined"});
@@ -45,14 +46,15 @@ Graph graph_of(const Tree& tree, Direction direction) {
 
 std::vector<Kernel> kernels_64fc() {
   std::vector<Kernel> result;
+  const char* const table = "dft_complex/rows_64fc.cpp";
+  networks::check_lengths(table, kRows64fc);
   for (const Row64fc& row : kRows64fc) {
+    const Tree tree = networks::tree_of_row({table, row.length}, row.tree, rader_64fc());
     for (const Direction direction : kDirections) {
       Kernel kernel = describe(row.length, gen::Precision::kDouble, row.tree, direction);
       kernel.bodies =
           row.length <= kLastLengthWithoutTwin ? gen::Bodies::kBothInside : gen::Bodies::kTwin;
-      kernel.graph = [tree = networks::parse_tree(row.tree), direction] {
-        return graph_of(tree, direction);
-      };
+      kernel.graph = [tree, direction] { return graph_of(tree, direction); };
       result.push_back(std::move(kernel));
     }
   }

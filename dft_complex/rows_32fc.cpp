@@ -74,15 +74,19 @@ const std::vector<Row32fc> kRows32fc = {
 };
 
 // 7 and 11 are direct. 13t stands in the inverse half of 53.
-const networks::RaderTable kRader32fc({
-    {"11r", "PFA(5w, 2)", "5", "5"},
-    {"13", "PFA(3, 4)", "PFA(2, 3)", "PFA(2, 3)"},
-    {"13t", "PFA(3, 4)", "PFA(3, 2)", "PFA(3, 2)", 1},
-    {"17", "CT(4, 4)", "CT(4, 2)", "Z(4)"},
-    {"19", "CT(PFA(3, 2), 3n)", "CT(3, 3)", "CT(3, 3n)"},
-    {"23", "PFA(2, 11)", "11r", "11r"},
-    {"29", "PFA(4, 7)", "PFA(2, 7)", "PFA(2, 7)"},
-    {"31", "PFA(3, PFA(5w, 2))", "PFA(5, 3)", "PFA(5, 3)"},
-});
+const networks::RaderTable& rader_32fc() {
+  static const networks::RaderTable table(
+      "dft_complex/rows_32fc.cpp", {
+                                       {"11r", "PFA(5w, 2)", "5", "5"},
+                                       {"13", "PFA(3, 4)", "PFA(2, 3)", "PFA(2, 3)"},
+                                       {"13t", "PFA(3, 4)", "PFA(3, 2)", "PFA(3, 2)", 1},
+                                       {"17", "CT(4, 4)", "CT(4, 2)", "Z(4)"},
+                                       {"19", "CT(PFA(3, 2), 3n)", "CT(3, 3)", "CT(3, 3n)"},
+                                       {"23", "PFA(2, 11)", "11r", "11r"},
+                                       {"29", "PFA(4, 7)", "PFA(2, 7)", "PFA(2, 7)"},
+                                       {"31", "PFA(3, PFA(5w, 2))", "PFA(5, 3)", "PFA(5, 3)"},
+                                   });
+  return table;
+}
 
 }  // namespace dft_complex

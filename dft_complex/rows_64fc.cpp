@@ -70,26 +70,31 @@ const std::vector<Row64fc> kRows64fc = {
 };
 
 // 7 and 11 are direct unless their name says otherwise; the variants stand inside one another.
-const networks::RaderTable kRader64fc({
-    {"7r", "PFA(2, 3)", "3", "3"},
-    {"11r", "PFA(5, 2)", "5", "5"},
-    {"13", "PFA(3, 4)", "PFA(3, 2)", "CT(3, 2)"},
-    {"13x", "split(PFA(3, 2), Z(3))", "PFA(3, 2)", "CT(3, 2)", 1},
-    {"13y", "split(PFA(3, 2), CT(3, 2))", "PFA(3, 2)", "Z(3)", 1},
-    {"17", "CT(4, 4)", "CT(4, 2)", "Z(4s)"},
-    {"19", "PFA(2, CT(3, 3))", "CT(3, 3)", "alt(CT(3, 3))"},
-    {"23", "PFA(2, 11)", "11r", "11r"},
-    {"23t", "PFA(2, 11r)", "11", "11"},
-    {"29", "PFA(4, 7)", "PFA(7, 2)", "CT(7, 2)"},
-    {"29t", "split(PFA(7, 2), CT(7, 2))", "PFA(7, 2)", "CT(7, 2)"},
-    {"31", "PFA(3, PFA(5, 2))", "PFA(5, 3)", "PFA(5, 3)"},
-    {"37", "PFA(4, CT(3, 3))", "PFA(2, CT(3, 3))", "Zc(CT(3, 3))"},
-    {"41", "PFA(5w, CT(4, 2))", "PFA(5w, 4)", "CT(5, 4s)"},
-    {"43", "PFA(2, PFA(7, 3))", "PFA(3, 7)", "CT(7, 3)"},
-    {"47", "PFA(23, 2)", "23t", "23t"},
-    {"53", "PFA(13, 4)", "PFA(13x, 2)", "CT(13y, 2)"},
-    {"59", "PFA(29, 2)", "29t", "29t"},
-    {"61", "PFA(3, PFA(4, 5))", "PFA(PFA(5, 3), 2)", "CT(PFA(5, 3), 2)"},
-});
+const networks::RaderTable& rader_64fc() {
+  static const networks::RaderTable table(
+      "dft_complex/rows_64fc.cpp",
+      {
+          {"7r", "PFA(2, 3)", "3", "3"},
+          {"11r", "PFA(5, 2)", "5", "5"},
+          {"13", "PFA(3, 4)", "PFA(3, 2)", "CT(3, 2)"},
+          {"13x", "split(PFA(3, 2), Z(3))", "PFA(3, 2)", "CT(3, 2)", 1},
+          {"13y", "split(PFA(3, 2), CT(3, 2))", "PFA(3, 2)", "Z(3)", 1},
+          {"17", "CT(4, 4)", "CT(4, 2)", "Z(4s)"},
+          {"19", "PFA(2, CT(3, 3))", "CT(3, 3)", "alt(CT(3, 3))"},
+          {"23", "PFA(2, 11)", "11r", "11r"},
+          {"23t", "PFA(2, 11r)", "11", "11"},
+          {"29", "PFA(4, 7)", "PFA(7, 2)", "CT(7, 2)"},
+          {"29t", "split(PFA(7, 2), CT(7, 2))", "PFA(7, 2)", "CT(7, 2)"},
+          {"31", "PFA(3, PFA(5, 2))", "PFA(5, 3)", "PFA(5, 3)"},
+          {"37", "PFA(4, CT(3, 3))", "PFA(2, CT(3, 3))", "Zc(CT(3, 3))"},
+          {"41", "PFA(5w, CT(4, 2))", "PFA(5w, 4)", "CT(5, 4s)"},
+          {"43", "PFA(2, PFA(7, 3))", "PFA(3, 7)", "CT(7, 3)"},
+          {"47", "PFA(23, 2)", "23t", "23t"},
+          {"53", "PFA(13, 4)", "PFA(13x, 2)", "CT(13y, 2)"},
+          {"59", "PFA(29, 2)", "29t", "29t"},
+          {"61", "PFA(3, PFA(4, 5))", "PFA(PFA(5, 3), 2)", "CT(PFA(5, 3), 2)"},
+      });
+  return table;
+}
 
 }  // namespace dft_complex

@@ -17,7 +17,7 @@ std::vector<typename Form::Sample> transform_32fc(Form& form, const networks::Tr
                                                   const std::vector<typename Form::Sample>& x,
                                                   int exponent) {
   const auto leaf = [](const networks::Tree& leaf, const std::vector<typename Form::Packed>& x) {
-    return complex_leaf(kRader32fc, leaf, x);
+    return complex_leaf(rader_32fc(), leaf, x);
   };
   switch (tree.kind) {
     case networks::Tree::Kind::kRader:

@@ -23,14 +23,14 @@ RealStyle style(bool is_mirrored) {
 }  // namespace
 
 networks::Bins<Expr> forward_core(const Row& row, const std::vector<Expr>& samples) {
-  return RealDft<Expr>(kRader, style(false)).real(networks::parse_tree(row.forward), samples);
+  return RealDft<Expr>(rader(), style(false)).real(networks::parse_tree(row.forward), samples);
 }
 
 std::vector<Expr> inverse_core(const Row& row, const std::vector<Expr>& doubled_parts) {
   const int n = row.length;
   const auto network = [&](const std::vector<Expr>& in) {
     const auto bins =
-        RealDft<Expr>(kRader, style(true)).real(networks::parse_tree(row.inverse), in);
+        RealDft<Expr>(rader(), style(true)).real(networks::parse_tree(row.inverse), in);
     return networks::parts_of(bins, [n](int k) { return k == 0 || 2 * k == n; });
   };
   return networks::run_mirrored(n, network, doubled_parts);

@@ -19,7 +19,7 @@ struct Row {
 };
 extern const std::vector<Row> kRows;
 // Leaves of trees in Rader's form, those of both directions.
-extern const networks::RaderTable kRader;
+const networks::RaderTable& rader();
 
 const Row& row_of(int length);
 

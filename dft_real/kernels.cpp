@@ -4,6 +4,7 @@
 #include "dft_real/sign_flips.h"
 #include "gen/precision.h"
 #include "gen/rewrite.h"
+#include "networks/row_checks.h"
 
 namespace dft_real {
 namespace {
@@ -85,6 +86,13 @@ const Row& row_of(int length) { return kRows.at(length - 2); }
 
 std::vector<Kernel> kernels() {
   std::vector<Kernel> result;
+  const char* const table = "dft_real/rows.cpp";
+  networks::check_lengths(table, kRows);
+  for (const Row& row : kRows) {
+    for (const char* tree : {row.forward, row.inverse}) {
+      networks::tree_of_row({table, row.length}, tree, rader());
+    }
+  }
   for (const Precision precision : {Precision::kSingle, Precision::kDouble}) {
     for (const Row& row : kRows) {
       for (const bool forward : {true, false}) {

@@ -30,7 +30,11 @@ std::vector<std::string> deal_out(const Target& target, const std::vector<gen::K
     // stands for another kernel belongs behind it.
     const int shard = kernel.same_as.empty() ? next++ % shards : shard_of.at(kernel.same_as);
     shard_of[kernel.name] = shard;
-    texts[shard] += "\n" + emit_kernel(kernel, target.order_of(kernel));
+    try {
+      texts[shard] += "\n" + emit_kernel(kernel, target.order_of(kernel));
+    } catch (const std::exception& error) {
+      throw std::runtime_error(kernel.name + ": " + error.what());
+    }
   }
   return texts;
 }

@@ -2,6 +2,7 @@
 #include "gen/precision.h"
 #include "gen/rewrite.h"
 #include "hartley/hartley.h"
+#include "networks/row_checks.h"
 
 namespace hartley {
 namespace {
@@ -51,6 +52,7 @@ Graph graph_of(const Row& row, Precision precision) {
 
 std::vector<Kernel> kernels() {
   std::vector<Kernel> result;
+  networks::check_lengths("hartley/rows.cpp", kRows);
   for (const Precision precision : {Precision::kSingle, Precision::kDouble}) {
     for (const Row& row : kRows) {
       const dft_real::Row& core = dft_real::row_of(row.length);

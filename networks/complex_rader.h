@@ -38,8 +38,8 @@ std::vector<typename Form::Sample> complex_rader(Form& form, const Tree& forward
   const std::vector<Sample> b =
       ComplexDft<Form>(form, leaf, Twiddles::kAllColumns).run(inverse, z, -1, "i");
   // With h[t] = exp(-2 pi i g^-t / p), whose spectrum S is, the conjugate root has conj h[t]. As
-  // g^(n/2) is -1, that is h[t + n/2]: the same sequence n/2 places on, and so are the outputs, which
-  // g^-(l + n/2) = -g^-l renames.
+  // g^(n/2) is -1, that is h[t + n/2]: the same sequence n/2 places on, and so are the outputs,
+  // which g^-(l + n/2) = -g^-l renames.
   for (int l = 0; l < n; ++l) {
     const int k = powers[(n - l) % n];
     y[exponent == 1 ? k : p - k] = b[l];

@@ -1,5 +1,6 @@
 #include "networks/rader_table.h"
 
+#include <set>
 #include <stdexcept>
 
 namespace networks {
@@ -8,17 +9,51 @@ using gen::ComplexNumber;
 using gen::Number;
 using gen::Quad;
 
-RaderTable::RaderTable(const std::vector<Row>& rows) {
-  for (const Row& row : rows) {
-    RaderRecipe recipe{parse_tree(row.input), parse_tree(row.even), parse_tree(row.odd), row.turn,
-                       row.odd_diagonal_reversed};
-    const Tree leaf = parse_tree(row.leaf);
-    if (recipe.prime() != leaf.length || 2 * recipe.even.length + 1 != leaf.length ||
-        recipe.odd.length != recipe.even.length) {
-      throw std::invalid_argument("lengths don't fit in the recipe of " + to_string(leaf));
-    }
-    recipes_.emplace(row.leaf, std::move(recipe));
+namespace {
+
+// The first leaf of the tree that no form is known of.
+const Tree* unknown_leaf(const RaderTable& table, const Tree& tree) {
+  if (tree.kind == Tree::Kind::kLeaf) return table.knows(tree) ? nullptr : &tree;
+  for (const Tree& part : tree.parts) {
+    if (const Tree* const leaf = unknown_leaf(table, part)) return leaf;
   }
+  return nullptr;
+}
+
+}  // namespace
+
+RaderTable::RaderTable(const std::string& name, const std::vector<Row>& rows) {
+  const auto fail = [&](const Row& row, const std::string& reason) {
+    throw std::invalid_argument(name + ", row " + row.leaf + ": " + reason);
+  };
+  for (const Row& row : rows) {
+    try {
+      RaderRecipe recipe{parse_tree(row.input), parse_tree(row.even), parse_tree(row.odd), row.turn,
+                         row.odd_diagonal_reversed};
+      const Tree leaf = parse_tree(row.leaf);
+      if (!is_prime(leaf.length)) fail(row, "not a prime");
+      if (recipe.prime() != leaf.length || 2 * recipe.even.length + 1 != leaf.length ||
+          recipe.odd.length != recipe.even.length) {
+        fail(row, "the recipe is of another length");
+      }
+      if (!recipes_.emplace(row.leaf, std::move(recipe)).second) fail(row, "there are two");
+    } catch (const std::invalid_argument& error) {
+      if (std::string(error.what()).starts_with(name)) throw;
+      fail(row, error.what());
+    }
+  }
+  for (const Row& row : rows) {
+    const RaderRecipe& recipe = recipes_.at(row.leaf);
+    for (const Tree* tree : {&recipe.input, &recipe.even, &recipe.odd}) {
+      const Tree* const leaf = unknown_leaf(*this, *tree);
+      if (leaf != nullptr) fail(row, "no form of " + to_string(*leaf));
+    }
+  }
+}
+
+bool RaderTable::knows(const Tree& leaf) const {
+  static const std::set<std::string> kForms = {"2", "3", "3n", "4", "4s", "5", "5w", "7", "11"};
+  return kForms.contains(to_string(leaf)) || find(leaf) != nullptr;
 }
 
 const RaderRecipe* RaderTable::find(const Tree& leaf) const {
@@ -26,7 +61,15 @@ const RaderRecipe* RaderTable::find(const Tree& leaf) const {
   return recipe == recipes_.end() ? nullptr : &recipe->second;
 }
 
+bool is_prime(int n) {
+  for (int p = 2; p * p <= n; ++p) {
+    if (n % p == 0) return false;
+  }
+  return n >= 2;
+}
+
 int smallest_primitive_root(int prime) {
+  if (!is_prime(prime)) throw std::invalid_argument(std::to_string(prime) + " is no prime");
   for (int g = 2;; ++g) {
     int power = g, order = 1;
     for (; power != 1; power = power * g % prime) ++order;

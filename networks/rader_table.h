@@ -40,8 +40,12 @@ class RaderTable {
     int turn = 0;
     bool odd_diagonal_reversed = false;
   };
-  explicit RaderTable(const std::vector<Row>& rows);
+  // `name` is what messages call the table. Throws std::invalid_argument that names it, the row and
+  // the reason if a recipe doesn't fit its leaf.
+  RaderTable(const std::string& name, const std::vector<Row>& rows);
 
+  // Whether there is a form of the leaf, here or in the networks themselves.
+  bool knows(const Tree& leaf) const;
   // Null if the leaf isn't in Rader's form.
   const RaderRecipe* find(const Tree& leaf) const;
 
@@ -49,6 +53,8 @@ class RaderTable {
   std::map<std::string, RaderRecipe> recipes_;
 };
 
+bool is_prime(int n);
+// Throws std::invalid_argument if it is no prime.
 int smallest_primitive_root(int prime);
 
 // powers[m] = g^m mod p, m = 0..p - 2, for the smallest primitive root g.

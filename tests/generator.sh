@@ -1,45 +1,70 @@
 #!/bin/sh
 # The generator as a program.
-# Usage: generator.sh BUILD_DIR
+# Usage: generator.sh GENERATOR TARGET_FOLDER
 set -eu
-build=$1
-generate=$build/bin/zulgen-generate
-shards=""
-for family in dft_complex_32fc dft_complex_64fc dft_real_32f dft_real_64f hartley_32f hartley_64f wht_32f wht_64f; do
-  shards="$shards --shards $family=3"
-done
+generate=$1 target=$2
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 
 fail() { echo "$1" >&2; exit 1; }
 
-mkdir "$work/a" "$work/b"
-for out in a b; do
-  # shellcheck disable=SC2086
-  "$generate" --out "$work/$out" $shards
+shards=
+for family in dft_complex_32fc dft_complex_64fc dft_real_32f dft_real_64f hartley_32f hartley_64f wht_32f wht_64f; do
+  shards="$shards --shards $family=3"
 done
-diff -r "$work/a" "$work/b" || fail "two runs give different files"
-touch -d '1 hour ago' "$work"/a/*
-"$generate" --out "$work/a" $shards
-[ -z "$(find "$work/a" -type f -mmin -30)" ] || fail "unchanged files were written again"
+mkdir "$work/out"
+# shellcheck disable=SC2086
+"$generate" --target "$target" --out "$work/out" $shards
+touch -d '1 hour ago' "$work"/out/*
+# shellcheck disable=SC2086
+"$generate" --target "$target" --out "$work/out" $shards
+[ -z "$(find "$work/out" -type f -mmin -30)" ] || fail "unchanged files were written again"
 
 name=zulgDFTInv_CToC_12_32fc
-[ "$("$generate" --recipe $name)" = "PFA(4, 3)" ] || fail "--recipe"
-"$generate" --counts | grep -qx "$name 96 16" || fail "--counts"
-"$generate" --print $name | grep -q "ZULGEN_EXPORT zulgResult $name" || fail "--print"
-"$generate" --counts | grep -qx "owngDCT4_64fw7_first_stage_16 68 32" || fail "--counts of bodies"
-"$generate" --print owngDCT4_32fw7_base_case_8 | grep -q "void owngDCT4_32fw7_base_case_8" ||
-  fail "--print of bodies"
-"$generate" --dot $name | grep -q "digraph $name" || fail "--dot"
-"$generate" --variants $name --order "live 0" --order "bisect 2" | grep -q "zulgResult ${name}_1" ||
-  fail "--variants"
-for wrong in "" "--recipe" "--recipe none" "--out" "--sing" "--out $work --shards x" \
-  "--variants $name --order fast"; do
-  code=0
-  # shellcheck disable=SC2086
-  "$generate" $wrong >"$work/out" 2>"$work/error" || code=$?
-  [ "$code" -eq 2 ] && [ -s "$work/error" ] || fail "no usage error for: $wrong"
-done
-code=0
-"$generate" --out /nonexistent/directory $shards 2>"$work/error" || code=$?
-[ "$code" -eq 1 ] && grep -q "can't write" "$work/error" || fail "a file that can't be written"
+expect() {  # expect TEXT OPTION...
+  text=$1
+  shift
+  "$generate" "$@" | grep -q -- "$text" || fail "$*"
+}
+expect "^PFA(4, 3)$" --recipe $name
+expect "^$name 96 16$" --counts
+expect "^owngDCT4_64fw7_first_stage_16 68 32$" --counts
+expect "ZULGEN_EXPORT zulgResult $name" --target "$target" --print $name
+expect "void owngDCT4_32fw7_base_case_8" --print owngDCT4_32fw7_base_case_8
+expect "digraph $name" --dot $name
+expect "zulgResult ${name}_1" --variants $name --order "live 0" --order "bisect 2"
+expect "^01*$" --arrange zulgDFTInv_CToC_9_32fc
+expect "^usage" --help
+
+refuse() {  # refuse CODE MESSAGE OPTION...
+  wanted=$1 message=$2 code=0
+  shift 2
+  "$generate" "$@" >"$work/stdout" 2>"$work/stderr" || code=$?
+  [ "$code" -eq "$wanted" ] && grep -q -- "$message" "$work/stderr" ||
+    fail "$code, $(head -1 "$work/stderr"): $*"
+}
+refuse 2 "nothing to do"
+refuse 2 "wants a value" --recipe
+refuse 2 "no kernel is called none" --recipe none
+refuse 2 "what is --sing?" --sing
+for count in x wht_32f=0 wht_32f=abc wht_32f=2x; do refuse 2 "not FAMILY=COUNT" --shards $count; done
+refuse 2 "no --target" --out "$work/out"
+refuse 2 "wants an --order" --variants $name
+refuse 1 "not an order: fast" --variants $name --order fast
+refuse 1 "no shards for" --target "$target" --out "$work/out"
+# shellcheck disable=SC2086
+refuse 1 "can't write" --target "$target" --out /nonexistent/directory $shards
+
+# A target's table of rows.
+cp -r "$target" "$work/target"
+edit() {  # edit COMMAND: of sed, on the table; and back
+  sed "$1" "$target/kernels.txt" >"$work/target/kernels.txt"
+}
+edit '3s/.*/zulgNone_1_32f live 0/'
+refuse 1 "kernels.txt:3: no kernel" --target "$work/target" --out "$work/out"
+edit '3p'
+refuse 1 "kernels.txt:4: no kernel, or a second row" --target "$work/target" --out "$work/out"
+edit '$d'
+refuse 1 "kernels.txt: no row of zulgWHT_7_64f" --target "$work/target" --out "$work/out"
+edit '5s/live\|bisect/fast/'
+refuse 1 "kernels.txt:5: not an order" --target "$work/target" --out "$work/out"

@@ -1,8 +1,10 @@
 #!/bin/sh
 # The headers declare what interface.txt says, and the libraries export it.
-# Usage: interface.sh BUILD_DIR SOURCE_DIR C_COMPILER
+# Usage: interface.sh SOURCE_DIR C_COMPILER GENERATOR LIBRARY...
+# with every libzulgens8 there is, and one libzulcore.
 set -eu
-build=$1 source=$2 compiler=$3
+source=$1 compiler=$2 generator=$3
+shift 3
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 
@@ -19,9 +21,9 @@ awk '/^#/ || !NF {next}
 # Statements of the preprocessed headers, one a line, without the names of parameters.
 printf '#include "zulgen.h"\n#include "zulcore.h"\n' >"$work/all.h"
 {
-  "$compiler" -m32 -E -dM -I"$source/include" "$work/all.h" |
+  "$compiler" -E -dM -I"$source/include" "$work/all.h" |
     sed -n 's/^#define \(ZULG_[A-Z_]* .*\)/\1/p'
-  "$compiler" -m32 -E -P -I"$source/include" "$work/all.h" | tr '\n' ' ' |
+  "$compiler" -E -P -I"$source/include" "$work/all.h" | tr '\n' ' ' |
     awk 'BEGIN {RS = ";"}
       {
         statement = statement (statement == "" ? "" : ";") $0
@@ -40,8 +42,14 @@ compare() {  # compare FILE OTHER WHAT
 compare "$work/wanted" "$work/declared" headers
 
 sed -n 's/^.*[ *]\(zul[a-zA-Z0-9_]*\)(.*/\1/p' "$work/wanted" | sort >"$work/functions"
-for library in zulgens8 zulcore; do
-  nm -D --defined-only "$build/lib/lib$library.so.6.1" | awk '{print $3}'
-done | sort >"$work/exported"
-compare "$work/functions" "$work/exported" libraries
+for library in "$@"; do
+  case $library in
+    *zulcore*) wanted=$work/core && grep '^zul[A-Z]' "$work/functions" >"$wanted" ;;
+    *) wanted=$work/transforms && grep -v '^zul[A-Z]' "$work/functions" >"$wanted" ;;
+  esac
+  nm -D --defined-only "$library" | awk '{print $3}' | sort >"$work/exported"
+  compare "$wanted" "$work/exported" "$library"
+done
+"$generator" --list | sort >"$work/manifest"
+compare "$work/transforms" "$work/manifest" manifest
 echo "$(wc -l <"$work/functions") functions"

@@ -82,7 +82,7 @@ TEST(ComplexNetworks, EqualTheDefinition) {
 
 // Real data at the bins and between them, with every root, for every tree that occurs.
 TEST(RealNetworks, EqualTheDefinition) {
-  const networks::RaderTable& table = dft_complex::kRader64fc;
+  const networks::RaderTable& table = dft_complex::rader_64fc();
   networks::RealDft<Quad> dft(table);
   const auto sum = [](const std::vector<Quad>& x, int f, int denominator) {
     Complex<Quad> y = {0, 0};

@@ -184,7 +184,7 @@ TEST(RealCounts, ConversionsAreThoseStated) {
 TEST(RealCounts, PrimeLengthsHoldTheCoreBelow) {
   for (int n : {13, 17, 19, 23, 29, 31, 37, 41, 43, 47, 53, 59, 61}) {
     const networks::RaderRecipe* recipe =
-        dft_real::kRader.find(networks::parse_tree(std::to_string(n)));
+        dft_real::rader().find(networks::parse_tree(std::to_string(n)));
     ASSERT_NE(recipe, nullptr) << n;
     EXPECT_EQ(to_string(recipe->input), dft_real::row_of(n - 1).forward) << n;
   }

@@ -79,7 +79,7 @@ class Reader {
 Branch hartley_branch(int length) {
   const bool behind = hartley::kRows.at(length - 2).form == hartley::Form::kOutputButterflies;
   const dft_real::Row& core = dft_real::row_of(length);
-  const Reader reader(dft_real::kRader);
+  const Reader reader(dft_real::rader());
   Branch branch = {length, behind ? "butterflies last" : "butterflies first", {}};
   branch.parts.push_back(reader.read(networks::parse_tree(behind ? core.forward : core.inverse),
                                      behind ? "forward core" : "inverse core"));
@@ -92,9 +92,9 @@ Branch decomposition(Transform transform, const gen::Kernel& kernel) {
   if (transform == Transform::kHartley) return hartley_branch(kernel.length());
   const bool real = transform == Transform::kRealForward || transform == Transform::kRealInverse;
   const bool single = kernel.precision == gen::Precision::kSingle;
-  const RaderTable& table = real     ? dft_real::kRader
-                            : single ? dft_complex::kRader32fc
-                                     : dft_complex::kRader64fc;
+  const RaderTable& table = real     ? dft_real::rader()
+                            : single ? dft_complex::rader_32fc()
+                                     : dft_complex::rader_64fc();
   Branch branch = Reader(table).read(networks::parse_tree(kernel.recipe));
   // The tree of a chirp doesn't tell the length of the transform.
   branch.length = kernel.length();
