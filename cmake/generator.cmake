@@ -6,11 +6,8 @@ file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_real/*.cpp
   ${PROJECT_SOURCE_DIR}/hartley/*.cpp
+  ${PROJECT_SOURCE_DIR}/wht/kernels/*.cpp
   ${PROJECT_SOURCE_DIR}/dct4/kernels/*.cpp)
-list(APPEND ZULGEN_CODEGEN_SOURCES
-  ${PROJECT_SOURCE_DIR}/wht/kernels.cpp
-  ${PROJECT_SOURCE_DIR}/wht/graphs.cpp
-  ${PROJECT_SOURCE_DIR}/wht/bodies.cpp)
 list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/gen/main.cpp)
 
 add_library(codegen STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})

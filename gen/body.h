@@ -13,23 +13,30 @@
 namespace gen {
 
 struct Body {
+  // The specialisation of a class template whose function `run` this is.
   std::string name;
-  std::string family;  // the header that it goes to
-  std::string recipe;  // what it computes, in a few words
-  Precision precision = Precision::kSingle;
+  std::string declared_in;  // the header that declares the template
+  std::string header;       // the one that the body goes to
+  std::string recipe;       // what it computes, in a few words
   Order order;
   // The names of accessors: the source, tables. With none, the function takes two arrays, of which
   // it reads and writes single elements; they may be the same array.
   std::vector<std::string> accessors;
-  // How many elements the first accessor reaches if it is an array, aligned on 16 bytes.
+  // How many elements the first accessor reaches if it is an array. It is read by halves of vectors
+  // or, then aligned on 16 bytes, by vectors.
   int source_elements = 0;
+  bool loads_halves = false;
   std::function<Graph()> graph;
 };
 
-// The function as C++.
+// "FirstStage<F4, 8>": a class template for vectors of so many lanes and a size.
+std::string specialisation(const std::string& class_template, Precision precision, int lane_count,
+                           int size);
+
+// The specialisation as C++.
 std::string emit_body_function(const Body& body);
 
-// The headers FAMILY.h that hold the bodies, by name.
+// The headers that hold the bodies, by name.
 std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies);
 
 }  // namespace gen

@@ -7,7 +7,7 @@
 #include "dft_real/dft_real.h"
 #include "gen/dispatch.h"
 #include "hartley/hartley.h"
-#include "wht/wht.h"
+#include "wht/kernels/kernels.h"
 
 namespace gen {
 
@@ -20,13 +20,13 @@ std::vector<Kernel> all_kernels() {
   return result;
 }
 
-std::vector<Body> all_bodies() { return dct4::bodies(); }
-
-std::map<std::string, std::string> body_headers() {
-  std::map<std::string, std::string> headers = headers_of_bodies(all_bodies());
-  headers["wht_bodies.h"] = wht::body_header();
-  return headers;
+std::vector<Body> all_bodies() {
+  std::vector<Body> result = dct4::bodies();
+  for (const Body& body : wht::bodies()) result.push_back(body);
+  return result;
 }
+
+std::map<std::string, std::string> body_headers() { return headers_of_bodies(all_bodies()); }
 
 std::vector<std::string> exported_functions() {
   std::vector<std::string> names = {"zulgenGetLibVersion", "zulgWHTGetBufferSize_32f",

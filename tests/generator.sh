@@ -27,8 +27,8 @@ name=zulgDFTInv_CToC_12_32fc
 [ "$("$generate" --recipe $name)" = "PFA(4, 3)" ] || fail "--recipe"
 "$generate" --counts | grep -qx "$name 96 16" || fail "--counts"
 "$generate" --print $name | grep -q "ZULGEN_EXPORT zulgResult $name" || fail "--print"
-"$generate" --counts | grep -qx "owngDCT4_64fw7_first_stage_16 68 32" || fail "--counts of bodies"
-"$generate" --print owngDCT4_32fw7_base_case_8 | grep -q "void owngDCT4_32fw7_base_case_8" ||
+"$generate" --counts | grep -qx "FirstStage<D2, 16> 68 32" || fail "--counts of bodies"
+"$generate" --print "BaseCase<float, 8>" | grep -q "struct BaseCase<float, 8>" ||
   fail "--print of bodies"
 "$generate" --dot $name | grep -q "digraph $name" || fail "--dot"
 "$generate" --variants $name --order "live 0" --order "bisect 2" | grep -q "zulgResult ${name}_1" ||

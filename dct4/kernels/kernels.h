@@ -26,13 +26,10 @@ struct Row {
 };
 extern const std::vector<Row> kRows;
 
-// "first_stage_16" and the like: the name without what stands for the sample type.
-std::string name(const Row& row);
-
 // The data flow, with all lanes of a vector taking part in the same operations.
 gen::Graph graph(const Row& row, gen::Precision precision);
 
-// All kernels in both precisions.
+// All kernels in both precisions, as dct4/bodies.h declares them.
 std::vector<gen::Body> bodies();
 
 // The exported functions.
