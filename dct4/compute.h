@@ -119,11 +119,12 @@ DCT4_DEFINE(int, env7_compute, const env7* self, Sample* dst, int row, const Sam
             const Sample* reversed) {
   if (self->rule != 1) return ZULG_ERR_CONTEXT;
   env9_compute(first_in<env9>(self->second), self->work, L, forward, reversed);
-  return env8_compute(first_in<env8>(self->first), dst, row, self->work);
+  env8_compute(first_in<env8>(self->first), dst, row, self->work);
+  return ZULG_OK;
 }
 
 DCT4_FUNCTION(int, env5_compute, const env5* self, Sample* dst, const Sample* src) {
-  const Sample* const reversed = src + self->last - (self->N - 1) * self->in_stride;
+  const Sample* const reversed = src + (self->last - (self->N - 1) * self->in_stride);
   if (self->rule != 7) {
     return run_first_stages(self->rule, {.forward = src,
                                          .reversed = reversed,

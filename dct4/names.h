@@ -23,9 +23,7 @@
 #define DCT4_FUNCTION(result, name, ...)   \
   DCT4_DECLARE(result, name, __VA_ARGS__); \
   DCT4_DEFINE(result, name, __VA_ARGS__)
-#define DCT4_DECLARE(result, name, ...) DCT4_ALIAS(name, DCT4_FULL(name), result, __VA_ARGS__)
+#define DCT4_DECLARE(result, name, ...)       \
+  static result DCT4_FULL(name)(__VA_ARGS__); \
+  static constexpr auto& name = DCT4_FULL(name)
 #define DCT4_DEFINE(result, name, ...) static result DCT4_FULL(name)(__VA_ARGS__)
-
-#define DCT4_ALIAS(name, full_name, result, ...) \
-  static result full_name(__VA_ARGS__);          \
-  static constexpr auto& name = full_name

@@ -126,10 +126,8 @@ DCT4_FUNCTION(int, env8_plan, void* object) {
 
 DCT4_FUNCTION(env8*, env8___init__, env8* self, Arena* arena, int r, int n, int stride, int N,
               envlambda* lambda) {
-  *self = {.step = {env8___del__, sizeof *self, env8_plan, arena},
+  *self = {.step = {{env8___del__, sizeof *self}, env8_plan, arena},
            .children = new_list(arena),
-           .table = nullptr,
-           .rule = 0,
            .r = r,
            .n = n,
            .stride = stride,
@@ -171,11 +169,9 @@ DCT4_FUNCTION(int, env9_plan, void* object) {
 
 DCT4_FUNCTION(env9*, env9___init__, env9* self, Arena* arena, int M, int n, int in_stride, int r,
               int out_stride) {
-  *self = {.step = {env9___del__, sizeof *self, env9_plan, arena},
+  *self = {.step = {{env9___del__, sizeof *self}, env9_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .M = M,
            .n = n,
            .n_2 = n,
@@ -222,14 +218,11 @@ DCT4_FUNCTION(int, env7_plan, void* object) {
 
 DCT4_DEFINE(env7*, env7___init__, env7* self, Arena* arena, int N, int n, int in_stride,
             int out_stride) {
-  *self = {.step = {env7___del__, sizeof *self, env7_plan, arena},
+  *self = {.step = {{env7___del__, sizeof *self}, env7_plan, arena},
            .children = new_list(arena),
            .first = new_list(arena),
            .second = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .N = N,
-           .r = 0,
            .n = n,
            .n_2 = n,
            .in_stride = in_stride,
@@ -253,11 +246,9 @@ DCT4_FUNCTION(int, env5_plan, void* object) {
 }
 
 DCT4_FUNCTION(env5*, env5___init__, env5* self, Arena* arena, int N, int d, int n) {
-  *self = {.step = {env5___del__, sizeof *self, env5_plan, arena},
+  *self = {.step = {{env5___del__, sizeof *self}, env5_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .N = N,
            .n = n,
            .last = wrapping_sum(n, n, -1),
@@ -289,10 +280,8 @@ DCT4_FUNCTION(int, env4_plan, void* object) {
 
 DCT4_FUNCTION(env4*, env4___init__, env4* self, Arena* arena, int d, int groups, int n,
               envfsplit* twiddle) {
-  *self = {.step = {env4___del__, sizeof *self, env4_plan, arena},
+  *self = {.step = {{env4___del__, sizeof *self}, env4_plan, arena},
            .children = new_list(arena),
-           .table = nullptr,
-           .rule = 0,
            .d = d,
            .n = n,
            .kernel = 2 * d,
@@ -319,11 +308,9 @@ DCT4_FUNCTION(int, env3_plan, void* object) {
 }
 
 DCT4_FUNCTION(env3*, env3___init__, env3* self, Arena* arena, int d, int n) {
-  *self = {.step = {env3___del__, sizeof *self, env3_plan, arena},
+  *self = {.step = {{env3___del__, sizeof *self}, env3_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .N = n / d,
            .n = n,
            .last = wrapping_sum(n, n, -1),
@@ -351,11 +338,9 @@ DCT4_FUNCTION(int, env2_plan, void* object) {
 }
 
 DCT4_FUNCTION(env2*, env2___init__, env2* self, Arena* arena, int d, int n, envfCompose* twiddle) {
-  *self = {.step = {env2___del__, sizeof *self, env2_plan, arena},
+  *self = {.step = {{env2___del__, sizeof *self}, env2_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .d = d,
            .n = n,
            .kernel = 2 * d,
@@ -403,13 +388,10 @@ DCT4_FUNCTION(int, env1_plan, void* object) {
 }
 
 DCT4_FUNCTION(env1*, env1___init__, env1* self, Arena* arena, int n) {
-  *self = {.step = {env1___del__, sizeof *self, env1_plan, arena},
+  *self = {.step = {{env1___del__, sizeof *self}, env1_plan, arena},
            .children = new_list(arena),
            .stage2 = new_list(arena),
            .stage1 = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
-           .d = 0,
            .n = n};
   return self;
 }

@@ -62,53 +62,54 @@ DCT4_CLASS(envlambda) {
 DCT4_CLASS(env1) {
   Step step;
   EnvList *children, *stage2, *stage1;
-  Sample* work;  // n samples, between the stages: N rows of d
-  int rule, d, n;
+  Sample* work = nullptr;  // n samples, between the stages: N rows of d
+  int rule = 0, d = 0, n;
 };
 
 DCT4_CLASS(env2) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;                             // null
-  int rule, d, n, kernel, m, n_2, last, N;  // kernel: 2 d; last: 2 n - 1
+  Sample* work = nullptr;                       // stays null
+  int rule = 0, d, n, kernel, m, n_2, last, N;  // kernel: 2 d; last: 2 n - 1
   envfCompose* twiddle;
 };
 
 DCT4_CLASS(env3) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;                               // null
-  int rule, N, n, last, stride, d, n_2, d_2;  // stride: 2 d
+  Sample* work = nullptr;                         // stays null
+  int rule = 0, N, n, last, stride, d, n_2, d_2;  // stride: 2 d
 };
 
 DCT4_CLASS(env4) {
   Step step;
-  EnvList* children;                                    // none
-  Sample* table;                                        // for each group, d pairs of vectors
-  int rule, d, n, kernel, block, groups, n_2, last, N;  // block: 2 d L, groups: m / L
+  EnvList* children;                                        // none
+  Sample* table = nullptr;                                  // for each group, d pairs of vectors
+  int rule = 0, d, n, kernel, block, groups, n_2, last, N;  // block: 2 d L, groups: m / L
   envfsplit* twiddle;
 };
 
 DCT4_CLASS(env5) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;                                              // null
-  int rule, N, n, last, in_stride, groups, n_2, out_stride;  // in_stride: 2 d, out_stride: d
+  Sample* work = nullptr;                                        // stays null
+  int rule = 0, N, n, last, in_stride, groups, n_2, out_stride;  // in_stride: 2 d, out_stride: d
 };
 
 DCT4_CLASS(env7) {
   Step step;
   EnvList *children, *first, *second;
-  Sample* work;  // n samples, between the steps, of which a call uses L columns
-  int rule, N, r, n, n_2, in_stride, n_3, out_stride;
+  Sample* work = nullptr;  // n samples, between the steps, of which a call uses L columns
+  int rule = 0, N, r = 0, n, n_2, in_stride, n_3, out_stride;
 };
 
 DCT4_CLASS(env8) {
   Step step;
   EnvList* children;  // none
-  Sample* table;      // for each of the transforms, r - 1 pairs of vectors, each of equal lanes
+  // For each of the transforms, r - 1 pairs of vectors, each of equal lanes.
+  Sample* table = nullptr;
   // block: 2 r stride, sums: M / 2, half: N / 2, last: N - 1
-  int rule, r, n, stride, block, sums, n_2, half, last, stride_2, M;
+  int rule = 0, r, n, stride, block, sums, n_2, half, last, stride_2, M;
   envlambda* lambda;
 };
 
@@ -118,9 +119,9 @@ constexpr bool is_within_first(int r) { return L == 2 && r == 32; }
 DCT4_CLASS(env9) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;  // null
+  Sample* work = nullptr;  // stays null
   // inner_in and inner_out: strides of the T(M), r times those of the split
-  int rule, M, n, n_2, inner_in, in_stride, r, n_3, inner_out, out_stride;
+  int rule = 0, M, n, n_2, inner_in, in_stride, r, n_3, inner_out, out_stride;
 };
 
 }  // namespace zulgen::DCT4_NAMESPACE

@@ -48,7 +48,7 @@ DCT4_FUNCTION(void, envlambda___del__, void*) {}
 
 DCT4_FUNCTION(envfCompose*, envfCompose___init__, envfCompose* self, Arena* arena, int d, int m,
               int n) {
-  *self = {.function = {envfCompose___del__, sizeof *self, envfCompose_at, arena},
+  *self = {.function = {{envfCompose___del__, sizeof *self}, envfCompose_at, arena},
            .row = 2 * d,
            .denominator = wrapping_product(8, n),
            .m = m,
@@ -59,7 +59,7 @@ DCT4_FUNCTION(envfCompose*, envfCompose___init__, envfCompose* self, Arena* aren
 
 DCT4_FUNCTION(envfsplit*, envfsplit___init__, envfsplit* self, Arena* arena, int d, int groups,
               envfCompose* compose) {
-  *self = {.function = {envfsplit___del__, sizeof *self, envfsplit_at, arena},
+  *self = {.function = {{envfsplit___del__, sizeof *self}, envfsplit_at, arena},
            .row = 2 * d,
            .groups = groups,
            .compose = compose};
@@ -67,7 +67,7 @@ DCT4_FUNCTION(envfsplit*, envfsplit___init__, envfsplit* self, Arena* arena, int
 }
 
 DCT4_FUNCTION(envlambda*, envlambda___init__, envlambda* self, Arena* arena, int N, int r) {
-  *self = {.function = {envlambda___del__, sizeof *self, envlambda_at, arena}, .N = N, .r = r};
+  *self = {.function = {{envlambda___del__, sizeof *self}, envlambda_at, arena}, .N = N, .r = r};
   return self;
 }
 
