@@ -7,18 +7,15 @@ file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_real/*.cpp
   ${PROJECT_SOURCE_DIR}/hartley/*.cpp
+  ${PROJECT_SOURCE_DIR}/wht/kernels/*.cpp
   ${PROJECT_SOURCE_DIR}/dct4/kernels/*.cpp)
-list(APPEND ZULGEN_CODEGEN_SOURCES
-  ${PROJECT_SOURCE_DIR}/wht/kernels.cpp
-  ${PROJECT_SOURCE_DIR}/wht/graphs.cpp
-  ${PROJECT_SOURCE_DIR}/wht/bodies.cpp)
 list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/generate/main.cpp)
 
 add_library(codegen STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})
 target_include_directories(codegen PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(codegen PUBLIC zulgen_program)
 # Its assertions are cheap, and stay.
-target_compile_options(codegen PRIVATE -UNDEBUG)
+target_compile_options(codegen PRIVATE -UNDEBUG -O2)
 
 add_executable(zulgen-generate generate/main.cpp)
 target_link_libraries(zulgen-generate PRIVATE codegen)

@@ -55,6 +55,11 @@ function(zulgen_objects name target)
   target_link_libraries(${name} PRIVATE zulgen_library_code)
 endfunction()
 
+# A plan's tables are made of sines and cosines, each by a call of the function that its source names:
+# a compiler that knows what these compute would make one call of two.
+set_source_files_properties(dct4/dct4_32f.cpp dct4/dct4_64f.cpp PROPERTIES COMPILE_OPTIONS
+  "-fno-builtin-sinf;-fno-builtin-cosf;-fno-builtin-sin;-fno-builtin-cos")
+
 foreach(target IN LISTS ZULGEN_LIBRARIES)
   zulgen_generate(${target})
   zulgen_objects(zulgen_kernels_${target} ${target}

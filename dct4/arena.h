@@ -89,6 +89,12 @@ static inline void* EnvList_get(const EnvList* list, int index) {
   return steps < index ? nullptr : list->value;
 }
 
+// The first object, which is known to be one of this class.
+template <class Object>
+static inline Object* first_in(const EnvList* list) {
+  return static_cast<Object*>(EnvList_get(list, 0));
+}
+
 // Destroys the objects of a list that owns them, first to last; the nodes stay.
 static inline void EnvList_freeChildren(EnvList* list) {
   for (EnvList* node = list; node != nullptr; node = node->next) {

@@ -3,20 +3,16 @@
 // taken apart sample by sample.
 #pragma once
 
-#include "frame/kernel.h"
-#include "frame/vector.h"
+#include "frame/rows.h"
 
 namespace zulgen {
 
-// The vector of each sample type, of L samples.
-template <class Sample>
-struct LanesOf;
+// Vectors and single samples, `step` apart.
+template <class V>
+struct Lanes;
 
 template <>
-struct LanesOf<float> {
-  using Vector = F4;
-  static constexpr int kCount = 4;
-  static F4 spread(float x) { return allF4(x); }
+struct Lanes<F4> {
   // p[0], p[step], p[2 step], p[3 step].
   ZULGEN_BODY static F4 gather(const float* p, int step) {
     const F4 low = unpack_low(_mm_load_ss(p), _mm_load_ss(p + step));
@@ -39,10 +35,7 @@ struct LanesOf<float> {
 };
 
 template <>
-struct LanesOf<double> {
-  using Vector = D2;
-  static constexpr int kCount = 2;
-  static D2 spread(double x) { return allD2(x); }
+struct Lanes<D2> {
   ZULGEN_BODY static D2 gather(const double* p, int step) {
     return _mm_loadh_pd(_mm_load_sd(p), p + step);
   }
@@ -55,94 +48,70 @@ struct LanesOf<double> {
   }
 };
 
-// The inputs u[s] of L transforms T(N), in neighbouring columns of the source: the even ones row by
+// The inputs u[s] of transforms T(N) in neighbouring columns of the source: the even ones row by
 // row upwards, the odd ones downwards, with their lanes in descending order.
-template <class Sample>
+template <class V>
 struct Columns {
-  const Sample* forward;   // u[0]
-  const Sample* reversed;  // u[1]
+  const SampleOf<V>* forward;   // u[0]
+  const SampleOf<V>* reversed;  // u[1]
   int stride;
-  ZULGEN_BODY auto load(int s) const {
-    return s % 2 == 0 ? LanesOf<Sample>::gather(forward + s / 2 * stride, 1)
-                      : LanesOf<Sample>::gather(reversed + s / 2 * stride, -1);
+  ZULGEN_BODY V load(int s) const {
+    return s % 2 == 0 ? Lanes<V>::gather(forward + s / 2 * stride, 1)
+                      : Lanes<V>::gather(reversed + s / 2 * stride, -1);
   }
 };
 
-// Aligned vectors to read, one a row.
-template <class Sample>
-struct SourceRows {
-  const Sample* first;
-  int stride;
-  ZULGEN_BODY auto load(int row) const { return Aligned::load(first + row * stride); }
-};
-
-// Aligned vectors to write, one a row.
-template <class Sample>
-struct Rows {
-  Sample* first;
-  int stride;
-  ZULGEN_BODY void store(int row, typename LanesOf<Sample>::Vector v) const {
-    Aligned::store(first + row * stride, v);
-  }
-};
-
-// Aligned vectors side by side.
-template <class Sample>
-struct Table {
-  const Sample* first;
-  ZULGEN_BODY auto load(int i) const { return Aligned::load(first + i * LanesOf<Sample>::kCount); }
-};
+// Vectors side by side, to read.
+template <class V>
+ZULGEN_BODY SourceRows<V> vectors_from(const SampleOf<V>* first) {
+  return {first, kLanes<V>};
+}
 
 // The results of a skew transform: vectors 4 a and 4 a + 1 go to two rows that move up with a,
 // 4 a + 2 and 4 a + 3 to two others.
-template <class Sample>
+template <class V>
 struct RowPairs {
-  Sample* direct;
-  Sample* mirrored;
+  SampleOf<V>* direct;
+  SampleOf<V>* mirrored;
   int row;   // from the real to the imaginary part
   int step;  // from a to a + 1
-  ZULGEN_BODY void store(int i, typename LanesOf<Sample>::Vector v) const {
-    Sample* const pair = (i % 4 < 2 ? direct : mirrored) + i / 4 * step;
+  ZULGEN_BODY void store(int i, V v) const {
+    SampleOf<V>* const pair = (i % 4 < 2 ? direct : mirrored) + i / 4 * step;
     Aligned::store(i % 2 == 0 ? pair : pair + row, v);
   }
 };
 
-// The 2 d results of L second stages: o[0], o[1], o[3], ... upwards in steps, o[2], o[4], ... and
-// the last likewise, with their lanes in descending order.
-template <class Sample, int d>
+// The 2 d results of second stages: o[0], o[1], o[3], ... upwards in steps, o[2], o[4], ... and the
+// last likewise, with their lanes in descending order.
+template <class V, int d>
 struct Results {
-  Sample* forward;
-  Sample* reversed;
+  SampleOf<V>* forward;
+  SampleOf<V>* reversed;
   int step;
-  ZULGEN_BODY void store(int i, typename LanesOf<Sample>::Vector v) const {
+  ZULGEN_BODY void store(int i, V v) const {
     const bool is_forward = i == 0 || (i % 2 == 1 && i != 2 * d - 1);
     if (is_forward) {
-      LanesOf<Sample>::scatter(forward + (i + 1) / 2 * step, 1, v);
+      Lanes<V>::scatter(forward + (i + 1) / 2 * step, 1, v);
     } else {
-      LanesOf<Sample>::scatter(reversed + (i - 1) / 2 * step, -1, v);
+      Lanes<V>::scatter(reversed + (i - 1) / 2 * step, -1, v);
     }
   }
 
   // The results of B groups, which stand in `rows`: all vectors o[0], all o[1], ...
   template <int B>
-  ZULGEN_BODY void store_rows(const Sample* rows) const {
-    constexpr int L = LanesOf<Sample>::kCount;
-    const auto up = [&](Sample * p) __attribute__((always_inline)) {
+  ZULGEN_BODY void store_rows(const SampleOf<V>* rows) const {
+    const auto put = [&](SampleOf<V> * p, int direction) __attribute__((always_inline)) {
 #pragma GCC unroll 4
-      for (int i = 0; i < B; ++i) LanesOf<Sample>::scatter(p + i * L, 1, rows + i * L);
-      rows += B * L;
+      for (int i = 0; i < B; ++i, p += direction * kLanes<V>, rows += kLanes<V>) {
+        Lanes<V>::scatter(p, direction, rows);
+      }
     };
-    const auto down = [&](Sample * p) __attribute__((always_inline)) {
-#pragma GCC unroll 4
-      for (int i = 0; i < B; ++i) LanesOf<Sample>::scatter(p - i * L, -1, rows + i * L);
-      rows += B * L;
-    };
-    up(forward);
+    put(forward, 1);
     for (int l = 1; l < d; ++l) {
-      up(forward + l * step);
-      down(reversed + (l - 1) * step);
+      put(forward + l * step, 1);
+      put(reversed + (l - 1) * step, -1);
     }
-    down(reversed + (d - 1) * step);
+    put(reversed + (d - 1) * step, -1);
   }
 };
 

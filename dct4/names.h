@@ -1,93 +1,29 @@
-// The full names of a plan's classes and operations, which differ between the sample types by what
-// FAMILY puts in front. A source file serves one type: it defines FAMILY, Sample and L first, and
-// includes everything of other folders before this.
+// The names of a plan's classes and operations. They exist once for each sample type: a source file
+// defines DCT4_TYPE, 32f or 64f, before it includes anything, and serves that one.
+//
+// In the type's namespace they go by short names, such as `env1` and `env1_plan`. The full names,
+// owngDCT4_32fw7_env1 and owngDCT4_32fw7_env1_plan, are made where a thing is defined, and are what
+// a debugger and the symbol table show.
 #pragma once
 
-#define env1 FAMILY(env1)
-#define env2 FAMILY(env2)
-#define env3 FAMILY(env3)
-#define env4 FAMILY(env4)
-#define env5 FAMILY(env5)
-#define env7 FAMILY(env7)
-#define env8 FAMILY(env8)
-#define env9 FAMILY(env9)
-#define envfCompose FAMILY(envfCompose)
-#define envfsplit FAMILY(envfsplit)
-#define envlambda FAMILY(envlambda)
+#define DCT4_JOIN(a, b, c) a##b##c
+#define DCT4_EXPAND(a, b, c) DCT4_JOIN(a, b, c)
+#define DCT4_OF_TYPE(before, after) DCT4_EXPAND(before, DCT4_TYPE, after)
 
-#define env1___init__ FAMILY(env1___init__)
-#define env1_mem FAMILY(env1_mem)
-#define env1_plan FAMILY(env1_plan)
-#define env1_compute FAMILY(env1_compute)
-#define env1___del__ FAMILY(env1___del__)
-#define env1__chooseRule FAMILY(env1__chooseRule)
-#define env2___init__ FAMILY(env2___init__)
-#define env2_mem FAMILY(env2_mem)
-#define env2_plan FAMILY(env2_plan)
-#define env2_compute FAMILY(env2_compute)
-#define env2___del__ FAMILY(env2___del__)
-#define env3___init__ FAMILY(env3___init__)
-#define env3_mem FAMILY(env3_mem)
-#define env3_plan FAMILY(env3_plan)
-#define env3_compute FAMILY(env3_compute)
-#define env3___del__ FAMILY(env3___del__)
-#define env4___init__ FAMILY(env4___init__)
-#define env4_mem FAMILY(env4_mem)
-#define env4_plan FAMILY(env4_plan)
-#define env4_compute FAMILY(env4_compute)
-#define env4___del__ FAMILY(env4___del__)
-#define env4__chooseRule FAMILY(env4__chooseRule)
-#define env5___init__ FAMILY(env5___init__)
-#define env5_mem FAMILY(env5_mem)
-#define env5_plan FAMILY(env5_plan)
-#define env5_compute FAMILY(env5_compute)
-#define env5___del__ FAMILY(env5___del__)
-#define env5__chooseRule FAMILY(env5__chooseRule)
-#define env7___init__ FAMILY(env7___init__)
-#define env7_mem FAMILY(env7_mem)
-#define env7_plan FAMILY(env7_plan)
-#define env7_compute FAMILY(env7_compute)
-#define env7___del__ FAMILY(env7___del__)
-#define env8___init__ FAMILY(env8___init__)
-#define env8_mem FAMILY(env8_mem)
-#define env8_plan FAMILY(env8_plan)
-#define env8_compute FAMILY(env8_compute)
-#define env8___del__ FAMILY(env8___del__)
-#define env8__chooseRule FAMILY(env8__chooseRule)
-#define env9___init__ FAMILY(env9___init__)
-#define env9_mem FAMILY(env9_mem)
-#define env9_plan FAMILY(env9_plan)
-#define env9_compute FAMILY(env9_compute)
-#define env9___del__ FAMILY(env9___del__)
-#define env9__chooseRule FAMILY(env9__chooseRule)
-#define envfCompose___init__ FAMILY(envfCompose___init__)
-#define envfCompose_at FAMILY(envfCompose_at)
-#define envfCompose___del__ FAMILY(envfCompose___del__)
-#define envfsplit___init__ FAMILY(envfsplit___init__)
-#define envfsplit_at FAMILY(envfsplit_at)
-#define envfsplit___del__ FAMILY(envfsplit___del__)
-#define envlambda___init__ FAMILY(envlambda___init__)
-#define envlambda_at FAMILY(envlambda_at)
-#define envlambda___del__ FAMILY(envlambda___del__)
-#define first_stage_2 FAMILY(first_stage_2)
-#define first_stage_4 FAMILY(first_stage_4)
-#define first_stage_8 FAMILY(first_stage_8)
-#define first_stage_16 FAMILY(first_stage_16)
-#define first_stage_32 FAMILY(first_stage_32)
-#define first_stage_64 FAMILY(first_stage_64)
-#define skew_sum_2 FAMILY(skew_sum_2)
-#define skew_sum_4 FAMILY(skew_sum_4)
-#define skew_sum_8 FAMILY(skew_sum_8)
-#define skew_sum_16 FAMILY(skew_sum_16)
-#define skew_sum_32 FAMILY(skew_sum_32)
-#define second_stage_1 FAMILY(second_stage_1)
-#define second_stage_2 FAMILY(second_stage_2)
-#define second_stage_4 FAMILY(second_stage_4)
-#define second_stage_8 FAMILY(second_stage_8)
-#define second_stage_16 FAMILY(second_stage_16)
-#define second_stage_32 FAMILY(second_stage_32)
-#define base_case_2 FAMILY(base_case_2)
-#define base_case_4 FAMILY(base_case_4)
-#define base_case_8 FAMILY(base_case_8)
-#define base_case_16 FAMILY(base_case_16)
-#define base_case_32 FAMILY(base_case_32)
+#define DCT4_NAMESPACE DCT4_OF_TYPE(dct4_, )
+#define DCT4_FULL(name) DCT4_OF_TYPE(owngDCT4_, w7_##name)
+
+// DCT4_CLASS(name) { members };
+#define DCT4_CLASS(name)               \
+  using name = struct DCT4_FULL(name); \
+  struct DCT4_FULL(name)
+
+// DCT4_FUNCTION(result, name, arguments) { statements }, or if it has to be known before,
+// DCT4_DECLARE(result, name, arguments); and later DCT4_DEFINE(result, name, arguments) { ... }
+#define DCT4_FUNCTION(result, name, ...)   \
+  DCT4_DECLARE(result, name, __VA_ARGS__); \
+  DCT4_DEFINE(result, name, __VA_ARGS__)
+#define DCT4_DECLARE(result, name, ...)       \
+  static result DCT4_FULL(name)(__VA_ARGS__); \
+  static constexpr auto& name = DCT4_FULL(name)
+#define DCT4_DEFINE(result, name, ...) static result DCT4_FULL(name)(__VA_ARGS__)

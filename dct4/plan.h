@@ -9,10 +9,15 @@
 #include "dct4/sizes.h"
 #include "dct4/twiddles.h"
 
-namespace zulgen {
+namespace zulgen::DCT4_NAMESPACE {
 
-static inline EnvList* new_list(Arena* arena) {
-  return EnvList___init__(static_cast<EnvList*>(zulgArenaMalloc(arena, sizeof(EnvList))), arena);
+template <class Object>
+static Object* new_object(Arena* arena) {
+  return static_cast<Object*>(zulgArenaMalloc(arena, sizeof(Object)));
+}
+
+static EnvList* new_list(Arena* arena) {
+  return EnvList___init__(new_object<EnvList>(arena), arena);
 }
 
 static void free_list(EnvList* list) {
@@ -25,13 +30,17 @@ static void free_children(EnvList* list) {
   free_list(list);
 }
 
-static int plan_first(const EnvList* list) {
-  void* const object = EnvList_get(list, 0);
-  return static_cast<Step*>(object)->plan(object) == 0 ? ZULG_OK : ZULG_ERR_SIZE;
+static Sample* new_samples(Arena* arena, int bytes) {
+  return static_cast<Sample*>(zulgArenaMalloc(arena, bytes));
 }
 
-static inline Sample* new_samples(Arena* arena, int bytes) {
-  return static_cast<Sample*>(zulgArenaMalloc(arena, bytes));
+// Makes a step that is constructed the next of the children and the only one of a list, and plans
+// it.
+static int plan_child(EnvList* children, EnvList* list, void* child) {
+  EnvList_add(children, child);
+  EnvList_add(list, child);
+  const auto step = first_in<Step>(list);
+  return step->plan(step);
 }
 
 // The tables.
@@ -49,7 +58,7 @@ static Sample* put_pair(Sample* table, Sample x) {
 // The rotations of a skew transform of `size` values, for every lambda.
 static Sample* put_within(Sample* table, const env8* self, int size) {
   for (int kappa = 0; kappa < self->sums; ++kappa) {
-    const Sample lambda = call_at(self->lambda, kappa, 0, 0);
+    const Sample lambda = lambda_at(self->lambda, kappa, 0, 0);
     for (int k = 1; k < size; ++k) {
       table = put_pair(table, lambda * (static_cast<Sample>(2 * k) / static_cast<Sample>(size)));
     }
@@ -60,7 +69,7 @@ static Sample* put_within(Sample* table, const env8* self, int size) {
 // Those of the second layer of one of `4 * count` values.
 static Sample* put_across(Sample* table, const env8* self, int count) {
   for (int kappa = 0; kappa < self->sums; ++kappa) {
-    const Sample lambda = call_at(self->lambda, kappa, 0, 0);
+    const Sample lambda = lambda_at(self->lambda, kappa, 0, 0);
     for (int j = 0; j < count; ++j) {
       const Sample moved = lambda + static_cast<Sample>(j);
       for (int k = 1; k < 4; ++k) {
@@ -98,7 +107,7 @@ static void fill_table(const env4* self) {
 
 // env8
 
-static void env8___del__(void* object) {
+DCT4_FUNCTION(void, env8___del__, void* object) {
   const auto self = static_cast<env8*>(object);
   if (self->rule >= 1 && self->rule <= 5) {
     zulgArenaFree(self->step.arena, self->table, env8_table_bytes(self->r, self->sums));
@@ -106,7 +115,7 @@ static void env8___del__(void* object) {
   free_children(self->children);
 }
 
-static int env8_plan(void* object) {
+DCT4_FUNCTION(int, env8_plan, void* object) {
   const auto self = static_cast<env8*>(object);
   self->rule = env8__chooseRule(self->r);
   if (self->rule == 0) return ZULG_ERR_SIZE;
@@ -115,65 +124,54 @@ static int env8_plan(void* object) {
   return ZULG_OK;
 }
 
-static env8* env8___init__(void* memory, Arena* arena, int r, int n, int stride, int N,
-                           envlambda* lambda) {
-  const auto self = static_cast<env8*>(memory);
-  const int M = N / r;
-  *self = {.step = {env8___del__, sizeof *self, env8_plan, arena},
+DCT4_FUNCTION(env8*, env8___init__, env8* self, Arena* arena, int r, int n, int stride, int N,
+              envlambda* lambda) {
+  *self = {.step = {{env8___del__, sizeof *self}, env8_plan, arena},
            .children = new_list(arena),
-           .table = nullptr,
-           .rule = 0,
            .r = r,
            .n = n,
            .stride = stride,
            .block = wrapping_product(2, r, stride),
-           .sums = M / 2,
+           .sums = N / r / 2,
            .n_2 = n,
            .half = N / 2,
            .last = N - 1,
            .stride_2 = stride,
-           .M = M,
+           .M = N / r,
            .lambda = lambda};
   return self;
 }
 
-// env7 and env9, which stand under one another
-
-static env7* env7___init__(void* memory, Arena* arena, int N, int n, int in_stride, int out_stride);
-
-// Both kinds of step that run T(N) have an env7 below them by rule 7.
-static int plan_split(EnvList* children, EnvList* steps, Arena* arena, int N, int n, int in_stride,
-                      int out_stride) {
-  void* const memory = zulgArenaMalloc(arena, sizeof(env7));
-  EnvList_add(children, env7___init__(memory, arena, N, n, in_stride, out_stride));
-  EnvList_add(steps, EnvList_get(children, 0));
-  return plan_first(steps);
-}
-
-static void env9___del__(void* object) {
-  const auto self = static_cast<env9*>(object);
-  if (self->rule >= 1 && self->rule <= 7) zulgArenaFree(self->step.arena, self->work, 0);
+// What has children and a list of them, and no memory of its own.
+template <class Object>
+static void free_lists(void* object) {
+  const auto self = static_cast<Object*>(object);
   free_list(self->steps);
   free_children(self->children);
 }
 
-static int env9_plan(void* object) {
+// env7 and env9, which stand under one another
+
+DCT4_DECLARE(env7*, env7___init__, env7* self, Arena* arena, int N, int n, int in_stride,
+             int out_stride);
+
+DCT4_FUNCTION(void, env9___del__, void* object) { free_lists<env9>(object); }
+
+DCT4_FUNCTION(int, env9_plan, void* object) {
   const auto self = static_cast<env9*>(object);
+  Arena* const arena = self->step.arena;
   self->rule = env9__chooseRule(self->M);
-  self->work = nullptr;
   if (self->rule != 7) return ZULG_OK;
-  return plan_split(self->children, self->steps, self->step.arena, self->M, self->n, self->inner_in,
-                    self->inner_out);
+  return plan_child(self->children, self->steps,
+                    env7___init__(new_object<env7>(arena), arena, self->M, self->n, self->inner_in,
+                                  self->inner_out));
 }
 
-static env9* env9___init__(void* memory, Arena* arena, int M, int n, int in_stride, int r,
-                           int out_stride) {
-  const auto self = static_cast<env9*>(memory);
-  *self = {.step = {env9___del__, sizeof *self, env9_plan, arena},
+DCT4_FUNCTION(env9*, env9___init__, env9* self, Arena* arena, int M, int n, int in_stride, int r,
+              int out_stride) {
+  *self = {.step = {{env9___del__, sizeof *self}, env9_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .M = M,
            .n = n,
            .n_2 = n,
@@ -186,7 +184,7 @@ static env9* env9___init__(void* memory, Arena* arena, int M, int n, int in_stri
   return self;
 }
 
-static void env7___del__(void* object) {
+DCT4_FUNCTION(void, env7___del__, void* object) {
   const auto self = static_cast<env7*>(object);
   if (self->rule == 1) zulgArenaFree(self->step.arena, self->work, samples_mem(self->n));
   free_list(self->first);
@@ -194,42 +192,37 @@ static void env7___del__(void* object) {
   free_children(self->children);
 }
 
-static int env7_plan(void* object) {
+DCT4_FUNCTION(int, env7_plan, void* object) {
   const auto self = static_cast<env7*>(object);
   Arena* const arena = self->step.arena;
+  const int N = self->N, n = self->n, in_stride = self->in_stride, out_stride = self->out_stride;
   self->rule = 1;
-  if (divisorsIntNonTriv(&self->r, self->N / 2) != ZULG_OK) return ZULG_ERR_SIZE;
+  if (const int error = divisorsIntNonTriv(&self->r, N / 2)) return error;
+  const int r = self->r;
 
-  void* memory = zulgArenaMalloc(arena, sizeof(env8));
-  const auto lambda =
-      envlambda___init__(zulgArenaMalloc(arena, sizeof(envlambda)), arena, self->N, self->r);
+  const auto sums = new_object<env8>(arena);
+  const auto lambda = envlambda___init__(new_object<envlambda>(arena), arena, N, r);
   EnvList_add(self->children, lambda);
-  EnvList_add(self->children,
-              env8___init__(memory, arena, self->r, self->n, self->out_stride, self->N, lambda));
-  EnvList_add(self->first, memory);
-  if (plan_first(self->first) != ZULG_OK) return ZULG_ERR_SIZE;
+  int error = plan_child(self->children, self->first,
+                         env8___init__(sums, arena, r, n, out_stride, N, lambda));
+  if (error) return error;
 
-  memory = zulgArenaMalloc(arena, sizeof(env9));
-  EnvList_add(self->children, env9___init__(memory, arena, self->N / self->r, self->n,
-                                            self->in_stride, self->r, self->out_stride));
-  EnvList_add(self->second, memory);
-  if (plan_first(self->second) != ZULG_OK) return ZULG_ERR_SIZE;
+  const auto parts = new_object<env9>(arena);
+  error = plan_child(self->children, self->second,
+                     env9___init__(parts, arena, N / r, n, in_stride, r, out_stride));
+  if (error) return error;
 
-  self->work = new_samples(arena, samples_mem(self->n));
+  self->work = new_samples(arena, samples_mem(n));
   return ZULG_OK;
 }
 
-static env7* env7___init__(void* memory, Arena* arena, int N, int n, int in_stride,
-                           int out_stride) {
-  const auto self = static_cast<env7*>(memory);
-  *self = {.step = {env7___del__, sizeof *self, env7_plan, arena},
+DCT4_DEFINE(env7*, env7___init__, env7* self, Arena* arena, int N, int n, int in_stride,
+            int out_stride) {
+  *self = {.step = {{env7___del__, sizeof *self}, env7_plan, arena},
            .children = new_list(arena),
            .first = new_list(arena),
            .second = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .N = N,
-           .r = 0,
            .n = n,
            .n_2 = n,
            .in_stride = in_stride,
@@ -240,29 +233,22 @@ static env7* env7___init__(void* memory, Arena* arena, int N, int n, int in_stri
 
 // env5
 
-static void env5___del__(void* object) {
-  const auto self = static_cast<env5*>(object);
-  if (self->rule >= 1 && self->rule <= 7) zulgArenaFree(self->step.arena, self->work, 0);
-  free_list(self->steps);
-  free_children(self->children);
-}
+DCT4_FUNCTION(void, env5___del__, void* object) { free_lists<env5>(object); }
 
-static int env5_plan(void* object) {
+DCT4_FUNCTION(int, env5_plan, void* object) {
   const auto self = static_cast<env5*>(object);
+  Arena* const arena = self->step.arena;
   self->rule = env5__chooseRule(self->N);
-  self->work = nullptr;
   if (self->rule != 7) return ZULG_OK;
-  return plan_split(self->children, self->steps, self->step.arena, self->N, self->n,
-                    self->in_stride, self->out_stride);
+  return plan_child(self->children, self->steps,
+                    env7___init__(new_object<env7>(arena), arena, self->N, self->n, self->in_stride,
+                                  self->out_stride));
 }
 
-static env5* env5___init__(void* memory, Arena* arena, int N, int d, int n) {
-  const auto self = static_cast<env5*>(memory);
-  *self = {.step = {env5___del__, sizeof *self, env5_plan, arena},
+DCT4_FUNCTION(env5*, env5___init__, env5* self, Arena* arena, int N, int d, int n) {
+  *self = {.step = {{env5___del__, sizeof *self}, env5_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .N = N,
            .n = n,
            .last = wrapping_sum(n, n, -1),
@@ -275,7 +261,7 @@ static env5* env5___init__(void* memory, Arena* arena, int N, int d, int n) {
 
 // env4
 
-static void env4___del__(void* object) {
+DCT4_FUNCTION(void, env4___del__, void* object) {
   const auto self = static_cast<env4*>(object);
   if (self->rule >= 1 && self->rule <= 6) {
     zulgArenaFree(self->step.arena, self->table, env4_table_bytes(self->d, self->groups));
@@ -283,7 +269,7 @@ static void env4___del__(void* object) {
   free_children(self->children);
 }
 
-static int env4_plan(void* object) {
+DCT4_FUNCTION(int, env4_plan, void* object) {
   const auto self = static_cast<env4*>(object);
   self->rule = env4__chooseRule(self->d);
   if (self->rule == 0) return ZULG_ERR_SIZE;
@@ -292,13 +278,10 @@ static int env4_plan(void* object) {
   return ZULG_OK;
 }
 
-static env4* env4___init__(void* memory, Arena* arena, int d, int groups, int n,
-                           envfsplit* twiddle) {
-  const auto self = static_cast<env4*>(memory);
-  *self = {.step = {env4___del__, sizeof *self, env4_plan, arena},
+DCT4_FUNCTION(env4*, env4___init__, env4* self, Arena* arena, int d, int groups, int n,
+              envfsplit* twiddle) {
+  *self = {.step = {{env4___del__, sizeof *self}, env4_plan, arena},
            .children = new_list(arena),
-           .table = nullptr,
-           .rule = 0,
            .d = d,
            .n = n,
            .kernel = 2 * d,
@@ -313,33 +296,21 @@ static env4* env4___init__(void* memory, Arena* arena, int d, int groups, int n,
 
 // env3 and env2, the halves of the root
 
-static void env3___del__(void* object) {
-  const auto self = static_cast<env3*>(object);
-  if (self->rule == 1) zulgArenaFree(self->step.arena, self->work, 0);
-  free_list(self->steps);
-  free_children(self->children);
-}
+DCT4_FUNCTION(void, env3___del__, void* object) { free_lists<env3>(object); }
 
-static int env3_plan(void* object) {
+DCT4_FUNCTION(int, env3_plan, void* object) {
   const auto self = static_cast<env3*>(object);
   Arena* const arena = self->step.arena;
   self->rule = self->d % L == 0 ? 1 : 0;
   if (self->rule == 0) return ZULG_ERR_SIZE;
-  void* const memory = zulgArenaMalloc(arena, sizeof(env5));
-  EnvList_add(self->children, env5___init__(memory, arena, self->N, self->d, self->n));
-  EnvList_add(self->steps, memory);
-  if (plan_first(self->steps) != ZULG_OK) return ZULG_ERR_SIZE;
-  self->work = nullptr;
-  return ZULG_OK;
+  return plan_child(self->children, self->steps,
+                    env5___init__(new_object<env5>(arena), arena, self->N, self->d, self->n));
 }
 
-static env3* env3___init__(void* memory, Arena* arena, int d, int n) {
-  const auto self = static_cast<env3*>(memory);
-  *self = {.step = {env3___del__, sizeof *self, env3_plan, arena},
+DCT4_FUNCTION(env3*, env3___init__, env3* self, Arena* arena, int d, int n) {
+  *self = {.step = {{env3___del__, sizeof *self}, env3_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .N = n / d,
            .n = n,
            .last = wrapping_sum(n, n, -1),
@@ -350,37 +321,26 @@ static env3* env3___init__(void* memory, Arena* arena, int d, int n) {
   return self;
 }
 
-static void env2___del__(void* object) {
-  const auto self = static_cast<env2*>(object);
-  if (self->rule == 1) zulgArenaFree(self->step.arena, self->work, 0);
-  free_list(self->steps);
-  free_children(self->children);
-}
+DCT4_FUNCTION(void, env2___del__, void* object) { free_lists<env2>(object); }
 
-static int env2_plan(void* object) {
+DCT4_FUNCTION(int, env2_plan, void* object) {
   const auto self = static_cast<env2*>(object);
   Arena* const arena = self->step.arena;
   self->rule = self->m % L == 0 ? 1 : 0;
   if (self->rule == 0) return ZULG_ERR_SIZE;
-  const int groups = self->m / L;
-  void* const memory = zulgArenaMalloc(arena, sizeof(env4));
-  const auto split = envfsplit___init__(zulgArenaMalloc(arena, sizeof(envfsplit)), arena, self->d,
-                                        groups, self->twiddle);
+  const int d = self->d, groups = self->m / L;
+  const auto leaf = new_object<env4>(arena);
+  const auto split =
+      envfsplit___init__(new_object<envfsplit>(arena), arena, d, groups, self->twiddle);
   EnvList_add(self->children, split);
-  EnvList_add(self->children, env4___init__(memory, arena, self->d, groups, self->n, split));
-  EnvList_add(self->steps, memory);
-  if (plan_first(self->steps) != ZULG_OK) return ZULG_ERR_SIZE;
-  self->work = nullptr;
-  return ZULG_OK;
+  return plan_child(self->children, self->steps,
+                    env4___init__(leaf, arena, d, groups, self->n, split));
 }
 
-static env2* env2___init__(void* memory, Arena* arena, int d, int n, envfCompose* twiddle) {
-  const auto self = static_cast<env2*>(memory);
-  *self = {.step = {env2___del__, sizeof *self, env2_plan, arena},
+DCT4_FUNCTION(env2*, env2___init__, env2* self, Arena* arena, int d, int n, envfCompose* twiddle) {
+  *self = {.step = {{env2___del__, sizeof *self}, env2_plan, arena},
            .children = new_list(arena),
            .steps = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
            .d = d,
            .n = n,
            .kernel = 2 * d,
@@ -394,53 +354,46 @@ static env2* env2___init__(void* memory, Arena* arena, int d, int n, envfCompose
 
 // env1, the root
 
-static void env1___del__(void* object) {
+DCT4_FUNCTION(void, env1___del__, void* object) {
   const auto self = static_cast<env1*>(object);
-  if (self->rule >= 1 && self->rule <= 6) {
-    zulgArenaFree(self->step.arena, self->work, self->rule == 6 ? samples_mem(self->n) : 0);
-  }
+  if (self->rule == 6) zulgArenaFree(self->step.arena, self->work, samples_mem(self->n));
   free_list(self->stage2);
   free_list(self->stage1);
   free_children(self->children);
 }
 
-static int env1_plan(void* object) {
+DCT4_FUNCTION(int, env1_plan, void* object) {
   const auto self = static_cast<env1*>(object);
   Arena* const arena = self->step.arena;
-  self->rule = env1__chooseRule(self->n);
-  self->work = nullptr;
+  const int n = self->n;
+  self->rule = env1__chooseRule(n);
   if (self->rule != 6) return ZULG_OK;
-  if (divisorsIntNonTriv(&self->d, self->n / 2) != ZULG_OK) return ZULG_ERR_SIZE;
-  const int d = self->d, n = self->n;
+  int error = divisorsIntNonTriv(&self->d, n / 2);
+  if (error) return error;
+  const int d = self->d;
 
-  void* memory = zulgArenaMalloc(arena, sizeof(env2));
+  const auto second = new_object<env2>(arena);
   const auto compose =
-      envfCompose___init__(zulgArenaMalloc(arena, sizeof(envfCompose)), arena, d, n / (2 * d), n);
+      envfCompose___init__(new_object<envfCompose>(arena), arena, d, n / (2 * d), n);
   EnvList_add(self->children, compose);
-  EnvList_add(self->children, env2___init__(memory, arena, d, n, compose));
-  EnvList_add(self->stage2, memory);
-  if (plan_first(self->stage2) != ZULG_OK) return ZULG_ERR_SIZE;
+  error = plan_child(self->children, self->stage2, env2___init__(second, arena, d, n, compose));
+  if (error) return error;
 
-  memory = zulgArenaMalloc(arena, sizeof(env3));
-  EnvList_add(self->children, env3___init__(memory, arena, d, n));
-  EnvList_add(self->stage1, memory);
-  if (plan_first(self->stage1) != ZULG_OK) return ZULG_ERR_SIZE;
+  const auto first = new_object<env3>(arena);
+  error = plan_child(self->children, self->stage1, env3___init__(first, arena, d, n));
+  if (error) return error;
 
   self->work = new_samples(arena, samples_mem(n));
   return ZULG_OK;
 }
 
-static env1* env1___init__(void* memory, Arena* arena, int n) {
-  const auto self = static_cast<env1*>(memory);
-  *self = {.step = {env1___del__, sizeof *self, env1_plan, arena},
+DCT4_FUNCTION(env1*, env1___init__, env1* self, Arena* arena, int n) {
+  *self = {.step = {{env1___del__, sizeof *self}, env1_plan, arena},
            .children = new_list(arena),
            .stage2 = new_list(arena),
            .stage1 = new_list(arena),
-           .work = nullptr,
-           .rule = 0,
-           .d = 0,
            .n = n};
   return self;
 }
 
-}  // namespace zulgen
+}  // namespace zulgen::DCT4_NAMESPACE

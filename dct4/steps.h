@@ -17,9 +17,19 @@
 // for: some repeat another, and some are read by nobody.
 #pragma once
 
-#include "dct4/arena.h"
+#include <type_traits>
 
-namespace zulgen {
+#include "dct4/arena.h"
+#include "dct4/names.h"
+#include "frame/rows.h"
+#include "zulgen.h"
+
+namespace zulgen::DCT4_NAMESPACE {
+
+using Sample = DCT4_OF_TYPE(zulg, );
+// Its L lanes are in a plan's sizes, tables and strides, whatever vectors a processor has.
+using Vector = std::conditional_t<sizeof(Sample) == sizeof(float), F4, D2>;
+constexpr int L = kLanes<Vector>;
 
 struct Step {  // what every step begins with
   ObjectHeader header;
@@ -33,81 +43,85 @@ struct Function {  // what every function object begins with
   Arena* arena;
 };
 
-struct envfCompose {
+DCT4_CLASS(envfCompose) {
   Function function;
   int row, denominator, m, d, row_2;  // 2 d, 8 n, m, d, 2 d
 };
 
-struct envfsplit {
+DCT4_CLASS(envfsplit) {
   Function function;
   int row, groups;  // 2 d, m / L
   envfCompose* compose;
 };
 
-struct envlambda {
+DCT4_CLASS(envlambda) {
   Function function;
   int N, r;
 };
 
-struct env1 {
+DCT4_CLASS(env1) {
   Step step;
   EnvList *children, *stage2, *stage1;
-  Sample* work;  // n samples, between the stages: N rows of d
-  int rule, d, n;
+  Sample* work = nullptr;  // n samples, between the stages: N rows of d
+  int rule = 0, d = 0, n;
 };
 
-struct env2 {
+DCT4_CLASS(env2) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;                             // null
-  int rule, d, n, kernel, m, n_2, last, N;  // kernel: 2 d; last: 2 n - 1
+  Sample* work = nullptr;                       // stays null
+  int rule = 0, d, n, kernel, m, n_2, last, N;  // kernel: 2 d; last: 2 n - 1
   envfCompose* twiddle;
 };
 
-struct env3 {
+DCT4_CLASS(env3) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;                               // null
-  int rule, N, n, last, stride, d, n_2, d_2;  // stride: 2 d
+  Sample* work = nullptr;                         // stays null
+  int rule = 0, N, n, last, stride, d, n_2, d_2;  // stride: 2 d
 };
 
-struct env4 {
+DCT4_CLASS(env4) {
   Step step;
-  EnvList* children;                                    // none
-  Sample* table;                                        // for each group, d pairs of vectors
-  int rule, d, n, kernel, block, groups, n_2, last, N;  // block: 2 d L, groups: m / L
+  EnvList* children;                                        // none
+  Sample* table = nullptr;                                  // for each group, d pairs of vectors
+  int rule = 0, d, n, kernel, block, groups, n_2, last, N;  // block: 2 d L, groups: m / L
   envfsplit* twiddle;
 };
 
-struct env5 {
+DCT4_CLASS(env5) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;                                              // null
-  int rule, N, n, last, in_stride, groups, n_2, out_stride;  // in_stride: 2 d, out_stride: d
+  Sample* work = nullptr;                                        // stays null
+  int rule = 0, N, n, last, in_stride, groups, n_2, out_stride;  // in_stride: 2 d, out_stride: d
 };
 
-struct env7 {
+DCT4_CLASS(env7) {
   Step step;
   EnvList *children, *first, *second;
-  Sample* work;  // n samples, between the steps, of which a call uses L columns
-  int rule, N, r, n, n_2, in_stride, n_3, out_stride;
+  Sample* work = nullptr;  // n samples, between the steps, of which a call uses L columns
+  int rule = 0, N, r = 0, n, n_2, in_stride, n_3, out_stride;
 };
 
-struct env8 {
+DCT4_CLASS(env8) {
   Step step;
   EnvList* children;  // none
-  Sample* table;      // for each of the transforms, r - 1 pairs of vectors, each of equal lanes
+  // For each of the transforms, r - 1 pairs of vectors, each of equal lanes.
+  Sample* table = nullptr;
   // block: 2 r stride, sums: M / 2, half: N / 2, last: N - 1
-  int rule, r, n, stride, block, sums, n_2, half, last, stride_2, M;
+  int rule = 0, r, n, stride, block, sums, n_2, half, last, stride_2, M;
   envlambda* lambda;
 };
 
-struct env9 {
+// Transforms of more than 8 values have two layers. Which one's table comes first:
+constexpr bool is_within_first(int r) { return L == 2 && r == 32; }
+
+DCT4_CLASS(env9) {
   Step step;
   EnvList *children, *steps;
-  Sample* work;  // null
+  Sample* work = nullptr;  // stays null
   // inner_in and inner_out: strides of the T(M), r times those of the split
-  int rule, M, n, n_2, inner_in, in_stride, r, n_3, inner_out, out_stride;
+  int rule = 0, M, n, n_2, inner_in, in_stride, r, n_3, inner_out, out_stride;
 };
 
-}  // namespace zulgen
+}  // namespace zulgen::DCT4_NAMESPACE

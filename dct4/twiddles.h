@@ -5,17 +5,24 @@
 
 #include "dct4/steps.h"
 
-namespace zulgen {
+namespace zulgen::DCT4_NAMESPACE {
 
-// Pi x is rounded to the sample type before its cosine is taken: that is the precision of a table.
-static inline Sample zulgCosPi(Sample x) {
-  return cosine(static_cast<Sample>(static_cast<double>(x) * 0x1.921fb54442d18p+1));
+// Cosine and sine of pi x, by the functions of the sample's precision and each by a call of its
+// own: these files are compiled so that no compiler puts the two together. (std::cos would undo
+// that.) Pi x is rounded to the sample type first: that is the precision of a table.
+static inline float cosine(float angle) { return cosf(angle); }
+static inline float sine(float angle) { return sinf(angle); }
+static inline double cosine(double angle) { return cos(angle); }
+static inline double sine(double angle) { return sin(angle); }
+static inline Sample times_pi(Sample x) {
+  return static_cast<Sample>(static_cast<double>(x) * 0x1.921fb54442d18p+1);
 }
-static inline Sample zulgSinPi(Sample x) {
-  return sine(static_cast<Sample>(static_cast<double>(x) * 0x1.921fb54442d18p+1));
-}
+static inline Sample DCT4_OF_TYPE(zulgCosPi_, )(Sample x) { return cosine(times_pi(x)); }
+static inline Sample DCT4_OF_TYPE(zulgSinPi_, )(Sample x) { return sine(times_pi(x)); }
+static constexpr auto& zulgCosPi = DCT4_OF_TYPE(zulgCosPi_, );
+static constexpr auto& zulgSinPi = DCT4_OF_TYPE(zulgSinPi_, );
 
-static Sample envfCompose_at(const void* object, int u, int v, int /*w*/) {
+DCT4_FUNCTION(Sample, envfCompose_at, const void* object, int u, int v, int /*w*/) {
   const auto self = static_cast<const envfCompose*>(object);
   // Row a holds cosine and sine of pi (2 a + 1) (2 b + 1) / (4 n) for all b.
   const int index = wrapping_sum(wrapping_product(self->row_2, u), v), pair = index / 2;
@@ -25,47 +32,43 @@ static Sample envfCompose_at(const void* object, int u, int v, int /*w*/) {
   return index % 2 == 0 ? zulgCosPi(x) : zulgSinPi(x);
 }
 
-static Sample envfsplit_at(const void* object, int u, int v, int w) {
+DCT4_FUNCTION(Sample, envfsplit_at, const void* object, int u, int v, int w) {
   const auto self = static_cast<const envfsplit*>(object);
   return envfCompose_at(self->compose, L * u + v, w, 0);
 }
 
-static Sample envlambda_at(const void* object, int i, int, int) {
+DCT4_FUNCTION(Sample, envlambda_at, const void* object, int i, int, int) {
   const auto self = static_cast<const envlambda*>(object);
   return (static_cast<Sample>(i) + Sample(0.5)) / static_cast<Sample>(self->N / self->r);
 }
 
-// The operation of a function object that is known by its header alone.
-static inline Sample call_at(const void* object, int u, int v, int w) {
-  return static_cast<const Function*>(object)->at(object, u, v, w);
-}
+DCT4_FUNCTION(void, envfCompose___del__, void*) {}
+DCT4_FUNCTION(void, envfsplit___del__, void*) {}
+DCT4_FUNCTION(void, envlambda___del__, void*) {}
 
-static void envfCompose___del__(void*) {}
-static void envfsplit___del__(void*) {}
-static void envlambda___del__(void*) {}
-
-static envfCompose* envfCompose___init__(void* memory, Arena* arena, int d, int m, int n) {
-  const auto self = static_cast<envfCompose*>(memory);
-  *self = {{envfCompose___del__, sizeof *self, envfCompose_at, arena},
-           2 * d,
-           wrapping_product(8, n),
-           m,
-           d,
-           2 * d};
+DCT4_FUNCTION(envfCompose*, envfCompose___init__, envfCompose* self, Arena* arena, int d, int m,
+              int n) {
+  *self = {.function = {{envfCompose___del__, sizeof *self}, envfCompose_at, arena},
+           .row = 2 * d,
+           .denominator = wrapping_product(8, n),
+           .m = m,
+           .d = d,
+           .row_2 = 2 * d};
   return self;
 }
 
-static envfsplit* envfsplit___init__(void* memory, Arena* arena, int d, int groups,
-                                     envfCompose* compose) {
-  const auto self = static_cast<envfsplit*>(memory);
-  *self = {{envfsplit___del__, sizeof *self, envfsplit_at, arena}, 2 * d, groups, compose};
+DCT4_FUNCTION(envfsplit*, envfsplit___init__, envfsplit* self, Arena* arena, int d, int groups,
+              envfCompose* compose) {
+  *self = {.function = {{envfsplit___del__, sizeof *self}, envfsplit_at, arena},
+           .row = 2 * d,
+           .groups = groups,
+           .compose = compose};
   return self;
 }
 
-static envlambda* envlambda___init__(void* memory, Arena* arena, int N, int r) {
-  const auto self = static_cast<envlambda*>(memory);
-  *self = {{envlambda___del__, sizeof *self, envlambda_at, arena}, N, r};
+DCT4_FUNCTION(envlambda*, envlambda___init__, envlambda* self, Arena* arena, int N, int r) {
+  *self = {.function = {{envlambda___del__, sizeof *self}, envlambda_at, arena}, .N = N, .r = r};
   return self;
 }
 
-}  // namespace zulgen
+}  // namespace zulgen::DCT4_NAMESPACE

@@ -1,4 +1,7 @@
 // One core a length, type and direction; the layouts only renumber its elements.
+#include <memory>
+#include <optional>
+
 #include "dft_real/dft_real.h"
 #include "dft_real/layouts.h"
 #include "dft_real/sign_flips.h"
@@ -96,10 +99,13 @@ std::vector<Kernel> kernels() {
   for (const Precision precision : {Precision::kSingle, Precision::kDouble}) {
     for (const Row& row : kRows) {
       for (const bool forward : {true, false}) {
+        // Made once, when the first of the layouts is asked for.
+        const auto made = std::make_shared<std::optional<Graph>>();
         for (const Layout layout : kLayouts) {
           Kernel kernel = describe(row, forward, layout, precision);
           kernel.graph = [=] {
-            return in_layout(core(row, forward, precision), forward, layout, row.length);
+            if (!*made) *made = core(row, forward, precision);
+            return in_layout(**made, forward, layout, row.length);
           };
           result.push_back(std::move(kernel));
         }

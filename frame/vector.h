@@ -6,8 +6,9 @@
 
 namespace zulgen {
 
-using F4 = __m128;
-using D2 = __m128d;
+// Plain vectors, as an argument of a template has to be; g++'s __m128 has an attribute more.
+using F4 = float __attribute__((vector_size(16)));
+using D2 = double __attribute__((vector_size(16)));
 
 inline F4 allF4(float x) { return _mm_set1_ps(x); }
 inline F4 lanesF4(float a, float b, float c, float d) { return _mm_setr_ps(a, b, c, d); }

@@ -7,42 +7,67 @@
 #include "gen/kernel.h"
 
 namespace gen {
+namespace {
 
-std::string emit_body_function(const Body& body) {
+const char* element_name(Precision precision) {
+  return precision == Precision::kSingle ? "float" : "double";
+}
+
+std::string arguments_of(const Body& body, Precision precision) {
+  if (body.accessors.empty()) {
+    const std::string element = element_name(precision);
+    return "const " + element + "* x, " + element + "* y";
+  }
+  std::string arguments;
+  for (const std::string& accessor : body.accessors) arguments += "const auto& " + accessor + ", ";
+  return arguments + "const auto& y";
+}
+
+}  // namespace
+
+std::string specialisation(const std::string& class_template, Precision precision, int lane_count,
+                           int size) {
+  const std::string vector =
+      lane_count == 1 ? element_name(precision)
+                      : (precision == Precision::kSingle ? "F" : "D") + std::to_string(lane_count);
+  return class_template + "<" + vector + ", " + std::to_string(size) + ">";
+}
+
+std::string emit_body(const Body& body, const Order& order) {
   const Graph graph = body.graph();
-  const Graph code = lowered(graph, body.source_elements);
+  const Graph code = lowered(graph, body.source_elements, body.loads_halves);
   const Counts counts = count_operations(graph);
-  const std::string element = body.precision == Precision::kSingle ? "float" : "double";
-  std::ostringstream text;
-  text << "// " << body.name << ": " << body.recipe << "\n//   " << counts.additions
-       << " additions, " << counts.multiplications
-       << " multiplications; order: " << to_string(body.order) << "\n";
-  text << "ZULGEN_BODY void " << body.name << "(";
   BodyStyle style;
   style.accessors = body.accessors;
   style.stores_by_accessor = !body.accessors.empty();
-  if (body.accessors.empty()) {
-    text << "const " << element << "* x, " << element << "* y";
-  } else {
-    for (const std::string& accessor : body.accessors) text << "const auto& " << accessor << ", ";
-    text << "const auto& y";
-  }
-  text << ") {\n";
-  if (body.source_elements > 0) text << "  using Memory = Aligned;\n";
-  text << emit_constants(code) << emit_body(code, schedule(code, body.order), style) << "}\n";
+
+  std::ostringstream text;
+  text << "// " << body.name << ": " << body.recipe << "\n//   " << counts.additions
+       << " additions, " << counts.multiplications
+       << " multiplications; order: " << to_string(order) << "\n";
+  text << "template <>\nstruct " << body.name << " {\n"
+       << "  ZULGEN_BODY static void run(" << arguments_of(body, graph.sample_precision())
+       << ") {\n";
+  if (body.source_elements > 0 && !body.loads_halves) text << "    using Memory = Aligned;\n";
+  std::istringstream statements(emit_constants(code) +
+                                emit_body(code, schedule(code, order), style));
+  for (std::string line; std::getline(statements, line);) text << "  " << line << "\n";
+  text << "  }\n};\n";
   return text.str();
 }
 
-std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies) {
+std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies,
+                                                     const OrderOfBody& order_of) {
   std::map<std::string, std::string> headers;
   for (const Body& body : bodies) {
-    std::string& header = headers[body.family + ".h"];
+    std::string& header = headers[body.header];
     if (header.empty()) {
-      header = "// Generated from the tables of " + body.family +
-               "; a change belongs there.\n#pragma once\n\n#include \"frame/kernel.h\"\n"
-               "#include \"frame/vector.h\"\n\nnamespace zulgen {\n";
+      header =
+          "// Generated from the tables beside what it includes; a change belongs there.\n"
+          "#pragma once\n\n#include \"" +
+          body.declared_in + "\"\n\nnamespace zulgen {\n";
     }
-    header += "\n" + emit_body_function(body);
+    header += "\n" + emit_body(body, order_of(body));
   }
   for (auto& [name, text] : headers) text += "\n}  // namespace zulgen\n";
   return headers;

@@ -13,23 +13,31 @@
 namespace gen {
 
 struct Body {
+  // The specialisation of a class template whose function `run` this is.
   std::string name;
-  std::string family;  // the header that it goes to
-  std::string recipe;  // what it computes, in a few words
-  Precision precision = Precision::kSingle;
-  Order order;
+  std::string declared_in;  // the header that declares the template
+  std::string header;       // the one that the body goes to
+  std::string recipe;       // what it computes, in a few words
   // The names of accessors: the source, tables. With none, the function takes two arrays, of which
   // it reads and writes single elements; they may be the same array.
   std::vector<std::string> accessors;
-  // How many elements the first accessor reaches if it is an array, aligned on 16 bytes.
+  // How many elements the first accessor reaches if it is an array. It is read by halves of vectors
+  // or, then aligned on 16 bytes, by vectors.
   int source_elements = 0;
+  bool loads_halves = false;
   std::function<Graph()> graph;
 };
 
-// The function as C++.
-std::string emit_body_function(const Body& body);
+// "FirstStage<F4, 8>": a class template for vectors of so many lanes and a size.
+std::string specialisation(const std::string& class_template, Precision precision, int lane_count,
+                           int size);
 
-// The headers FAMILY.h that hold the bodies, by name.
-std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies);
+// The specialisation as C++, its statements in the given order.
+std::string emit_body(const Body& body, const Order& order);
+
+// The headers that hold the bodies, by name.
+using OrderOfBody = std::function<Order(const Body&)>;
+std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies,
+                                                     const OrderOfBody& order_of);
 
 }  // namespace gen

@@ -148,8 +148,8 @@ class BodyWriter {
   }
 
   // The name of what a load reads from.
-  const std::string& array(const Node& node) const {
-    return node.op == Op::kFetch ? style_.accessors.at(node.array) : style_.source;
+  std::string array(const Node& node) const {
+    return node.op == Op::kFetch ? style_.accessors.at(node.array) : "x";
   }
 
   std::string load_suffix(NodeId id) const {
@@ -187,7 +187,7 @@ class BodyWriter {
     const auto name = [&](NodeId operand) { return names_[operand]; };
     switch (node.op) {
       case Op::kInput:
-        return style_.source + "[" + std::to_string(node.element) + "]";
+        return "x[" + std::to_string(node.element) + "]";
       case Op::kFetch:
         return array(node) + ".load(" + std::to_string(node.element) + ")";
       case Op::kZero: {
@@ -216,7 +216,7 @@ class BodyWriter {
       case Op::kProduct:
         return name(node.a) + " * " + name(node.b);
       case Op::kScale:
-        return style_.scale + " * " + name(node.a);
+        return "s * " + name(node.a);
       case Op::kWiden:
         return "static_cast<double>(" + name(node.a) + ")";
       case Op::kRound:
@@ -247,7 +247,7 @@ class BodyWriter {
     const auto form = single_move(graph_, id);
     if (!form) throw std::logic_error("a lane move that takes several instructions");
     const std::string memory = style_.memory_policy ? "Memory::" : "";
-    const std::string address = style_.source + " + " + std::to_string(form->element);
+    const std::string address = "x + " + std::to_string(form->element);
     const auto call = [&](const std::string& function) {
       return function + "(" + names_[form->a] + ", " + names_[form->b] + ")";
     };
@@ -259,8 +259,7 @@ class BodyWriter {
       case Move::kLoadTwice:
         return "load_twice(" + address + ")";
       case Move::kLoadHalves:
-        return "load_halves(" + address + ", " + style_.source + " + " +
-               std::to_string(form->high_element) + ")";
+        return "load_halves(" + address + ", x + " + std::to_string(form->high_element) + ")";
       case Move::kUnpackLow:
         return call("unpack_low");
       case Move::kUnpackHigh:
@@ -288,13 +287,11 @@ class BodyWriter {
         still_pending.push_back(store);
         continue;
       }
-      const std::string address = style_.destination + " + " + std::to_string(store.element);
+      const std::string address = "y + " + std::to_string(store.element);
       if (style_.stores_by_accessor) {
-        text_ << "  " << style_.destination << ".store(" << store.element << ", "
-              << names_[store.node] << ");\n";
+        text_ << "  y.store(" << store.element << ", " << names_[store.node] << ");\n";
       } else if (store.function[0] == '\0') {
-        text_ << "  " << style_.destination << "[" << store.element << "] = ";
-        text_ << names_[store.node] << ";\n";
+        text_ << "  y[" << store.element << "] = " << names_[store.node] << ";\n";
       } else {
         const bool whole = store.function == std::string("store");
         text_ << "  " << (whole && style_.memory_policy ? "Memory::" : "") << store.function << "("

@@ -8,17 +8,15 @@
 
 namespace gen {
 
-// How the statements reach memory and what they call things.
+// How the statements reach memory. They call the pointer to the elements read x, the one to those
+// written, which may equal it, y, and the factor, spread over the lanes, s.
 struct BodyStyle {
-  std::string source = "x";       // pointer to the elements read
-  std::string destination = "y";  // pointer to the elements written; may equal the source
-  std::string scale = "s";        // the factor, spread over the lanes
   // The kernel has aligned and unaligned access to memory, by a template parameter `Memory`.
   bool memory_policy = true;
   // Accessors of fetched vectors, by number: `name.load(element)` brings one.
   std::vector<std::string> accessors;
-  // Outputs are whole vectors that `destination.store(element, vector)` takes, and reach nothing
-  // that is read.
+  // Outputs are whole vectors that `y.store(element, vector)` takes, and reach nothing that is
+  // read.
   bool stores_by_accessor = false;
 };
 

@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "gen/cost.h"
 #include "gen/count.h"
 #include "gen/emit.h"
 #include "gen/moves.h"
@@ -82,11 +83,12 @@ Graph lowered(const Graph& graph, int source_elements, bool loads_halves) {
 Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
-std::string emit_kernel(const Kernel& kernel, const Order& order) {
+WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
   if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
-  if (!kernel.same_as.empty()) return emit_alias(kernel);
   const Graph graph = kernel.graph();
   const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
+  const double bound = port_bound(count_vector_operations(code));
+  if (!kernel.same_as.empty()) return {emit_alias(kernel), bound};
   const std::string element = kernel.is_single() ? "float" : "double";
   const bool vectors = kernel.bodies != Bodies::kOne;
   const std::string arguments = arguments_of(kernel);
@@ -131,7 +133,7 @@ std::string emit_kernel(const Kernel& kernel, const Order& order) {
     text << "  if (!is_aligned(source, destination)) return " << unaligned;
   }
   text << "  return " << aligned << "}\n" << emit_hidden_name(kernel);
-  return text.str();
+  return {text.str(), bound};
 }
 
 }  // namespace gen

@@ -52,8 +52,12 @@ Kernel kernel_of(const Signature& signature);
 // The graph in the form that is written out: sign flips in constants, lane moves as instructions.
 Graph lowered(const Graph& graph, int source_elements, bool loads_halves = false);
 
-// The kernel's functions as C++, its statements in the given order.
-std::string emit_kernel(const Kernel& kernel, const Order& order);
+// The kernel's functions as C++, its statements in the given order, and what they cost.
+struct WrittenKernel {
+  std::string text;
+  double port_bound = 0;  // see cost.h
+};
+WrittenKernel emit_kernel(const Kernel& kernel, const Order& order);
 
 // The scale factors of a length N, computed as the kernels store them.
 Quad one_over_n(int n);

@@ -34,12 +34,7 @@ Graph widen_products(const Graph& old) {
       case Op::kMul: {
         if (is_doubling(old, node)) return copy_node(old, id, graph, new_value);
         is_double[id] = true;
-        Value operand = read(graph, new_value, node.a, Precision::kDouble);
-        const bool is_sum = old[node.a].op == Op::kAdd || old[node.a].op == Op::kSub;
-        if (is_double[node.a] && is_sum && uses[node.a] == 1) {
-          operand = graph.widen(graph.round(operand));
-        }
-        return graph.mul(old.factors(node), operand);
+        return graph.mul(old.factors(node), read(graph, new_value, node.a, Precision::kDouble));
       }
       case Op::kAdd:
       case Op::kSub: {

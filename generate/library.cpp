@@ -19,47 +19,51 @@ std::string source_file(const std::string& heading, const std::string& functions
          functions + "\n}  // namespace zulgen\n";
 }
 
-// The text of each shard.
-std::vector<std::string> deal_out(const Target& target, const std::vector<gen::Kernel>& kernels,
-                                  int shards) {
-  std::vector<std::string> texts(shards);
-  std::map<std::string, int> shard_of;
-  int next = 0;
-  for (const gen::Kernel& kernel : kernels) {
-    // Kernels come in order of length, so that dealing them out evens out the files. A name that
-    // stands for another kernel belongs behind it.
-    const int shard = kernel.same_as.empty() ? next++ % shards : shard_of.at(kernel.same_as);
-    shard_of[kernel.name] = shard;
-    try {
-      texts[shard] += "\n" + emit_kernel(kernel, target.order_of(kernel));
-    } catch (const std::exception& error) {
-      throw std::runtime_error(kernel.name + ": " + error.what());
-    }
-  }
-  return texts;
-}
-
 // See contents.h.
-std::string contents() {
+std::string line_of(const gen::Kernel& kernel, double port_bound) {
   static constexpr const char* kTransforms[] = {"complex", "real", "hartley", "walsh"};
   static constexpr const char* kDirections[] = {"forward", "inverse", "itself"};
   std::ostringstream text;
-  for (const gen::Kernel& kernel : all_kernels()) {
-    const gen::Graph code =
-        gen::lowered(kernel.graph(), kernel.source_elements, kernel.loads_halves);
-    text << "kernel " << kernel.name << " " << (kernel.is_single() ? 4 : 8) << " "
-         << kernel.source_elements << " " << kernel.destination_elements << " "
-         << kTransforms[static_cast<int>(kernel.transform)] << " "
-         << kDirections[static_cast<int>(kernel.direction)] << " " << kernel.length() << " "
-         << gen::port_bound(gen::count_vector_operations(code)) << "\n";
-  }
-  for (const DispatchEntry& entry : dispatch_entries(all_kernels())) {
-    text << "entry " << entry.name << " " << entry.lowest;
-    for (const std::string& kernel : entry.kernels) text << " " << kernel;
-    text << "\n";
-  }
+  text << "kernel " << kernel.name << " " << (kernel.is_single() ? 4 : 8) << " "
+       << kernel.source_elements << " " << kernel.destination_elements << " "
+       << kTransforms[static_cast<int>(kernel.transform)] << " "
+       << kDirections[static_cast<int>(kernel.direction)] << " " << kernel.length() << " "
+       << port_bound << "\n";
   return text.str();
 }
+
+// The sources of a library's kernels, and their lines in its contents.
+class Sources {
+ public:
+  Sources(const Target& target, const Shards& shards) : target_(target) {
+    for (const auto& [family, count] : shards) texts[family].resize(count);
+  }
+
+  // Kernels come in order of length, so that dealing them out evens out the files. A name that
+  // stands for another kernel belongs behind it.
+  void add(const gen::Kernel& kernel) {
+    const std::string family = family_of(kernel);
+    if (!texts.contains(family)) throw std::runtime_error("no shards for " + family);
+    if (!kernel.is_generated) {
+      lines += line_of(kernel, gen::port_bound(gen::count_vector_operations(kernel.graph())));
+      return;
+    }
+    const gen::WrittenKernel written = emit_kernel(kernel, target_.order_of(kernel));
+    lines += line_of(kernel, written.port_bound);
+    std::vector<std::string>& shards = texts[family];
+    const std::size_t shard =
+        kernel.same_as.empty() ? next_[family]++ % shards.size() : shard_of_.at(kernel.same_as);
+    shard_of_[kernel.name] = shard;
+    shards[shard] += "\n" + written.text;
+  }
+
+  std::map<std::string, std::vector<std::string>> texts;  // by family, for each shard
+  std::string lines;
+
+ private:
+  const Target& target_;
+  std::map<std::string, std::size_t> next_, shard_of_;
+};
 
 }  // namespace
 
@@ -67,18 +71,23 @@ void write_library(const Target& target, const std::string& directory, const Sha
   const auto write = [&](const std::string& name, const std::string& text) {
     gen::write_if_changed(directory + "/" + name, text);
   };
-  std::map<std::string, std::vector<gen::Kernel>> families;
-  for (const gen::Kernel& kernel : all_kernels()) {
-    std::vector<gen::Kernel>& family = families[family_of(kernel)];
-    if (kernel.is_generated) family.push_back(kernel);
+  const std::vector<gen::Kernel> kernels = all_kernels();
+  Sources sources(target, shards);
+  for (const gen::Kernel& kernel : kernels) {
+    try {
+      sources.add(kernel);
+    } catch (const std::exception& error) {
+      throw std::runtime_error(kernel.name + ": " + error.what());
+    }
   }
   std::map<std::string, std::string> entries_of;
-  for (const DispatchEntry& entry : dispatch_entries(all_kernels())) {
+  for (const DispatchEntry& entry : dispatch_entries(kernels)) {
     entries_of[entry.family] += "\n" + emit_dispatch(entry, target.entry);
+    sources.lines += "entry " + entry.name + " " + std::to_string(entry.lowest);
+    for (const std::string& kernel : entry.kernels) sources.lines += " " + kernel;
+    sources.lines += "\n";
   }
-  for (const auto& [family, kernels] : families) {
-    if (!shards.contains(family)) throw std::runtime_error("no shards for " + family);
-    const std::vector<std::string> texts = deal_out(target, kernels, shards.at(family));
+  for (const auto& [family, texts] : sources.texts) {
     for (std::size_t shard = 0; shard < texts.size(); ++shard) {
       write(family + "." + std::to_string(shard) + ".cpp",
             source_file("Generated from the tables of " + family + "; a change belongs there.",
@@ -87,8 +96,9 @@ void write_library(const Target& target, const std::string& directory, const Sha
     write(family + ".dispatch.s",
           "# Generated from the list of " + family + ".\n" + entries_of[family] + kAssemblyEnd);
   }
-  for (const auto& [name, text] : body_headers()) write(name, text);
-  write("library.txt", contents());
+  const auto order_of = [&](const gen::Body& body) { return target.order_of(body); };
+  for (const auto& [name, text] : headers_of_bodies(all_bodies(), order_of)) write(name, text);
+  write("library.txt", sources.lines);
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";
   write("zulgens8.map", exports + "  local:\n    *;\n};\n");
@@ -100,7 +110,7 @@ std::string source_of_variants(gen::Kernel kernel, const std::vector<gen::Order>
   kernel.graph = [graph = kernel.graph()] { return graph; };
   for (std::size_t i = 0; i < orders.size(); ++i) {
     kernel.name = name + "_" + std::to_string(i);
-    functions += "\n" + emit_kernel(kernel, orders[i]);
+    functions += "\n" + emit_kernel(kernel, orders[i]).text;
   }
   return source_file(name + " in " + std::to_string(orders.size()) + " orders.", functions);
 }

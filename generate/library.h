@@ -14,7 +14,7 @@ namespace generate {
 using Shards = std::map<std::string, int>;
 
 // Into `directory`: <family>.<shard>.cpp for every shard, <family>.dispatch.s with the entries
-// that pick one of the family's kernels by its length, the headers of manifest.h; zulgens8.map, the
+// that pick one of the family's kernels by its length, the headers of bodies; zulgens8.map, the
 // linker's version script, which exports what the manifest lists and nothing else; and library.txt,
 // which contents.h reads. Throws std::runtime_error.
 void write_library(const Target& target, const std::string& directory, const Shards& shards);

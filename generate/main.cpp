@@ -24,7 +24,7 @@ constexpr const char* kUsage =
                                       the cheapest arrangement of a single-precision complex
                                       kernel, for its row: takes some seconds
        zulgen-generate --target DIR --print NAME
-                                      a kernel's source
+                                      a kernel's source, or a body's
        zulgen-generate --variants NAME --order ORDER...
                                       a source file of the kernel in many orders, for measuring;
                                       they are called NAME_0, NAME_1, ...
@@ -55,11 +55,12 @@ generate::Target read_target(const Options& options) {
 }
 
 std::string source_of(const Options& options) {
+  const generate::Target target = read_target(options);
   for (const gen::Body& body : generate::all_bodies()) {
-    if (body.name == options.print) return gen::emit_body_function(body);
+    if (body.name == options.print) return emit_body(body, target.order_of(body));
   }
   const gen::Kernel kernel = find_kernel(options.print);
-  return gen::emit_kernel(kernel, read_target(options).order_of(kernel));
+  return emit_kernel(kernel, target.order_of(kernel)).text;
 }
 
 void print_counts() {

@@ -7,7 +7,7 @@
 #include "dft_real/dft_real.h"
 #include "generate/dispatch.h"
 #include "hartley/hartley.h"
-#include "wht/wht.h"
+#include "wht/kernels/kernels.h"
 
 namespace generate {
 
@@ -20,12 +20,10 @@ std::vector<gen::Kernel> all_kernels() {
   return result;
 }
 
-std::vector<gen::Body> all_bodies() { return dct4::bodies(); }
-
-std::map<std::string, std::string> body_headers() {
-  std::map<std::string, std::string> headers = gen::headers_of_bodies(all_bodies());
-  headers["wht_bodies.h"] = wht::body_header();
-  return headers;
+std::vector<gen::Body> all_bodies() {
+  std::vector<gen::Body> result = dct4::bodies();
+  for (const gen::Body& body : wht::bodies()) result.push_back(body);
+  return result;
 }
 
 std::vector<std::string> exported_functions() {

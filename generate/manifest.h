@@ -1,7 +1,6 @@
 // The manifest: every kernel of the library, and every function that it exports.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -14,9 +13,6 @@ std::vector<gen::Kernel> all_kernels();
 
 // The arithmetic of what is written by hand in terms of accessors.
 std::vector<gen::Body> all_bodies();
-
-// The headers of generated bodies that code written by hand includes, by name.
-std::map<std::string, std::string> body_headers();
 
 // The kernels, their dispatch entries and the functions written by hand, sorted.
 std::vector<std::string> exported_functions();

@@ -29,10 +29,11 @@ std::set<std::string> wanted_rows() {
   for (const gen::Kernel& kernel : all_kernels()) {
     if (kernel.is_generated) names.insert(row_name(kernel));
   }
+  for (const gen::Body& body : all_bodies()) names.insert(body.name);
   return names;
 }
 
-// Lines of a name and an order; those that begin with # are comments.
+// Lines of a name and an order of two words; those that begin with # are comments.
 std::map<std::string, gen::Order> read_orders(const std::string& path) {
   std::istringstream lines(read_file(path));
   std::set<std::string> missing = wanted_rows();
@@ -40,16 +41,16 @@ std::map<std::string, gen::Order> read_orders(const std::string& path) {
   std::string line;
   for (int number = 1; std::getline(lines, line); ++number) {
     if (line.empty() || line[0] == '#') continue;
-    const std::size_t blank = line.find(' ');
-    const std::string name = line.substr(0, blank);
     const auto fail = [&](const std::string& what) {
       throw std::runtime_error(path + ":" + std::to_string(number) + ": " + what);
     };
+    const std::size_t order = line.rfind(' ', line.rfind(' ') - 1);
+    const std::size_t name_end = line.find_last_not_of(' ', order);
+    if (name_end == std::string::npos) fail("not a name and an order");
+    const std::string name = line.substr(0, name_end + 1);
     if (missing.erase(name) == 0) fail("no kernel, or a second row of it: " + name);
-    const std::size_t order = line.find_first_not_of(' ', blank);
-    if (order == std::string::npos) fail("no order");
     try {
-      orders[name] = gen::parse_order(line.substr(order));
+      orders[name] = gen::parse_order(line.substr(order + 1));
     } catch (const std::invalid_argument& error) {
       fail(error.what());
     }
@@ -60,11 +61,7 @@ std::map<std::string, gen::Order> read_orders(const std::string& path) {
 
 }  // namespace
 
-gen::Order Target::order_of(const gen::Kernel& kernel) const {
-  const auto row = orders.find(row_name(kernel));
-  if (row == orders.end()) throw std::runtime_error(name + " has no row of " + kernel.name);
-  return row->second;
-}
+gen::Order Target::order_of(const gen::Kernel& kernel) const { return orders.at(row_name(kernel)); }
 
 Target read_target(const std::string& folder, const std::string& architecture_folder) {
   const auto find = [&](const std::string& file) {

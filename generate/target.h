@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "gen/body.h"
 #include "gen/kernel.h"
 
 namespace generate {
@@ -12,12 +13,12 @@ struct Target {
   std::string name;  // of the folder
   // entry.s.in: the assembly of an entry that takes a length at run time.
   std::string entry;
-  // kernels.txt: how each kernel is written down, by name. A real kernel's row, that of its CCS
-  // layout, stands for all layouts.
+  // kernels.txt: how each kernel and each body is written down, by name. A real kernel's row, that
+  // of its CCS layout, stands for all layouts.
   std::map<std::string, gen::Order> orders;
 
-  // Throws std::runtime_error if there is no row.
   gen::Order order_of(const gen::Kernel& kernel) const;
+  gen::Order order_of(const gen::Body& body) const { return orders.at(body.name); }
 };
 
 // A level of an architecture has a folder of its own, and what isn't there is the architecture's.

@@ -19,6 +19,7 @@
 #include <bit>
 #include <complex>
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <type_traits>
 #include <utility>
@@ -269,26 +270,16 @@ template <std::size_t N>
 }
 
 // Walsh-Hadamard transform in natural order: zulgen/wht.h. The size of both spans is a power of two
-// up to 8192, else ZULG_ERR_SIZE and nothing written. From 256 samples on it takes a work buffer,
-// of work_bytes() and aligned on 16 bytes, or without one allocates for the time of the call.
+// from 2 to 8192. From 256 samples on the transform works in a buffer that the caller brings, of
+// work_bytes() and any alignment, apart from the samples; shorter ones need none. ZULG_ERR_SIZE,
+// and nothing written, if a size doesn't fit, the buffer's included. Nothing is allocated.
 
 namespace detail {
 
-template <class Real, class Entry>
-zulgResult walsh_hadamard(Entry entry, std::size_t work_bytes, std::span<const Real> src,
-                          std::span<Real> dst, Scale scale, std::span<std::byte> work) {
-  if (src.size() != dst.size() || !std::has_single_bit(src.size())) return ZULG_ERR_SIZE;
-  if (!work.empty() && work.size() < work_bytes) return ZULG_ERR_SIZE;
-  return entry(src.data(), dst.data(), std::countr_zero(src.size()),
-               static_cast<zulgScaleFlag>(scale), work.empty() ? nullptr : work.data());
-}
+inline constexpr std::size_t kWorkAlignment = 16;
 
-}  // namespace detail
-
-// Bytes of the work buffer for that many samples; 0 if it takes none, or there is no such
-// transform.
 template <class Real>
-std::size_t work_bytes(std::size_t samples) noexcept {
+std::size_t aligned_work_bytes(std::size_t samples) noexcept {
   constexpr auto kSize =
       std::is_same_v<Real, float> ? zulgWHTGetBufferSize_32f : zulgWHTGetBufferSize_64f;
   int bytes = 0;
@@ -296,15 +287,37 @@ std::size_t work_bytes(std::size_t samples) noexcept {
   return static_cast<std::size_t>(bytes);
 }
 
+template <class Real, class Entry>
+zulgResult walsh_hadamard(Entry entry, std::span<const Real> src, std::span<Real> dst, Scale scale,
+                          std::span<std::byte> work) noexcept {
+  if (src.size() != dst.size() || !std::has_single_bit(src.size())) return ZULG_ERR_SIZE;
+  const std::size_t bytes = aligned_work_bytes<Real>(src.size());
+  void* at = work.data();
+  std::size_t room = work.size();
+  if (bytes > 0 && !std::align(kWorkAlignment, bytes, at, room)) return ZULG_ERR_SIZE;
+  return entry(src.data(), dst.data(), std::countr_zero(src.size()),
+               static_cast<zulgScaleFlag>(scale), at);
+}
+
+}  // namespace detail
+
+// Bytes of the buffer for that many samples, wherever it lies; 0 if they need none, or there is no
+// such transform.
+template <class Real>
+std::size_t work_bytes(std::size_t samples) noexcept {
+  const std::size_t bytes = detail::aligned_work_bytes<Real>(samples);
+  return bytes == 0 ? 0 : bytes + detail::kWorkAlignment - 1;
+}
+
 [[nodiscard]] inline zulgResult walsh_hadamard(std::span<const float> src, std::span<float> dst,
                                                Scale scale,
                                                std::span<std::byte> work = {}) noexcept {
-  return detail::walsh_hadamard(zulgWHT_32f, work_bytes<float>(src.size()), src, dst, scale, work);
+  return detail::walsh_hadamard(zulgWHT_32f, src, dst, scale, work);
 }
 [[nodiscard]] inline zulgResult walsh_hadamard(std::span<const double> src, std::span<double> dst,
                                                Scale scale,
                                                std::span<std::byte> work = {}) noexcept {
-  return detail::walsh_hadamard(zulgWHT_64f, work_bytes<double>(src.size()), src, dst, scale, work);
+  return detail::walsh_hadamard(zulgWHT_64f, src, dst, scale, work);
 }
 
 // A plan for the DCT-IV of one length: zulgen/dct4.h. It owns the plan's memory. As the plan is

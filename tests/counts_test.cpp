@@ -1,4 +1,4 @@
-// The arithmetic of the complex kernels against the tables of wanted counts.
+// The arithmetic of the complex and the Walsh-Hadamard kernels against the tables of wanted counts.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -6,6 +6,7 @@
 #include "dft_complex/dft_complex.h"
 #include "gen/count.h"
 #include "networks/tree.h"
+#include "wht/kernels/kernels.h"
 
 namespace {
 
@@ -127,6 +128,25 @@ TEST(Counts, DoublePrecisionKernelsSwapOnceAPairOfBins) {
       swaps += graph[node.picks[0].node].op != gen::Op::kInput;
     }
     EXPECT_EQ(swaps, (kernel.length() - 1) / 2) << kernel.name;
+  }
+}
+
+// Half of them are subtractions; besides there is one product a sample.
+TEST(WhtCounts, AreOneAdditionASampleAndStage) {
+  for (const gen::Kernel& kernel : wht::kernels()) {
+    const gen::Graph graph = kernel.graph();
+    const std::vector<bool> live = graph.live_nodes();
+    std::map<gen::Op, int> lanes;
+    for (gen::NodeId id = 0; id < graph.size(); ++id) {
+      if (live[id]) lanes[graph[id].op] += graph[id].lane_count;
+    }
+    const int stages = kernel.number;
+    const int additions = stages * kernel.length();
+    EXPECT_EQ(gen::count_operations(graph), (gen::Counts{additions, 0})) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kAdd], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kSub], additions / 2) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kScale], kernel.length()) << kernel.name;
+    EXPECT_EQ(lanes[gen::Op::kFlipSigns], 0) << kernel.name;
   }
 }
 

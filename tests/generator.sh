@@ -28,9 +28,9 @@ expect() {  # expect TEXT OPTION...
 }
 expect "^PFA(4, 3)$" --recipe $name
 expect "^$name 96 16$" --counts
-expect "^owngDCT4_64fw7_first_stage_16 68 32$" --counts
+expect "^FirstStage<D2, 16> 68 32$" --counts
 expect "ZULGEN_EXPORT zulgResult $name" --target "$target" --print $name
-expect "void owngDCT4_32fw7_base_case_8" --print owngDCT4_32fw7_base_case_8
+expect "struct BaseCase<float, 8>" --target "$target" --print "BaseCase<float, 8>"
 expect "digraph $name" --dot $name
 expect "zulgResult ${name}_1" --variants $name --order "live 0" --order "bisect 2"
 expect "^01*$" --arrange zulgDFTInv_CToC_9_32fc
@@ -65,6 +65,6 @@ refuse 1 "kernels.txt:3: no kernel" --target "$work/target" --out "$work/out"
 edit '3p'
 refuse 1 "kernels.txt:4: no kernel, or a second row" --target "$work/target" --out "$work/out"
 edit '$d'
-refuse 1 "kernels.txt: no row of zulgWHT_7_64f" --target "$work/target" --out "$work/out"
+refuse 1 "kernels.txt: no row of ColumnTransform<D2, 16>" --target "$work/target" --out "$work/out"
 edit '5s/live\|bisect/fast/'
 refuse 1 "kernels.txt:5: not an order" --target "$work/target" --out "$work/out"

@@ -13,47 +13,46 @@ constexpr double one_over_sqrt(int order) {
   return (order % 2 == 0 ? 1 : 1 / kSqrt2) / (1 << order / 2);
 }
 
-template <class T, int order, class Access>
-ZULGEN_INLINE zulgResult transform(const T* source, T* destination, zulgScaleFlag flag,
-                                   void* work) {
+template <class V, int order, class Access, class T = SampleOf<V>>
+ZULGEN_BODY zulgResult transform(const T* source, T* destination, zulgScaleFlag flag, void* work) {
   constexpr T kByN = T(1) / (1 << order), kBySqrtN = static_cast<T>(one_over_sqrt(order));
   T factor;
   const zulgResult result = check_arguments(source, destination, flag, kByN, kBySqrtN, factor);
   if (result != ZULG_OK) return result;
   void* const buffer = work != nullptr ? work : zulMalloc(wht::work_bytes<T>(order));
-  run_passes<T, order, Access>(source, destination, all(factor), static_cast<T*>(buffer));
+  run_passes<V, order, Access>(source, destination, factor, static_cast<T*>(buffer));
   if (work == nullptr) zulFree(buffer);
   return ZULG_OK;
 }
 
 }  // namespace
 
-#define ZULGEN_WHT(order, type)                                                            \
+#define ZULGEN_WHT(order, type, vector)                                                    \
   ZULGEN_TWIN zulgResult owngWHT_##order##_##type##_unaligned(                             \
       const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
-    return transform<zulg##type, order, Unaligned>(source, destination, flag, work);       \
+    return transform<vector, order, Unaligned>(source, destination, flag, work);           \
   }                                                                                        \
   ZULGEN_EXPORT zulgResult zulgWHT_##order##_##type(                                       \
       const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
     if (!ZULGEN_IS_ALIGNED(source, destination)) {                                         \
       return owngWHT_##order##_##type##_unaligned(source, destination, flag, work);        \
     }                                                                                      \
-    return transform<zulg##type, order, Aligned>(source, destination, flag, work);         \
+    return transform<vector, order, Aligned>(source, destination, flag, work);             \
   }                                                                                        \
   ZULGEN_HIDDEN_NAME(zulgWHT_##order##_##type) zulgResult owngWHT_##order##_##type(        \
       const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work);
 
-ZULGEN_WHT(8, 32f)
-ZULGEN_WHT(9, 32f)
-ZULGEN_WHT(10, 32f)
-ZULGEN_WHT(11, 32f)
-ZULGEN_WHT(12, 32f)
-ZULGEN_WHT(13, 32f)
-ZULGEN_WHT(8, 64f)
-ZULGEN_WHT(9, 64f)
-ZULGEN_WHT(10, 64f)
-ZULGEN_WHT(11, 64f)
-ZULGEN_WHT(12, 64f)
-ZULGEN_WHT(13, 64f)
+ZULGEN_WHT(8, 32f, F4)
+ZULGEN_WHT(9, 32f, F4)
+ZULGEN_WHT(10, 32f, F4)
+ZULGEN_WHT(11, 32f, F4)
+ZULGEN_WHT(12, 32f, F4)
+ZULGEN_WHT(13, 32f, F4)
+ZULGEN_WHT(8, 64f, D2)
+ZULGEN_WHT(9, 64f, D2)
+ZULGEN_WHT(10, 64f, D2)
+ZULGEN_WHT(11, 64f, D2)
+ZULGEN_WHT(12, 64f, D2)
+ZULGEN_WHT(13, 64f, D2)
 
 }  // namespace zulgen

@@ -2,82 +2,65 @@
 // the kernel.
 #pragma once
 
-#include "frame/vector.h"
+#include "frame/rows.h"
 #include "wht/plans.h"
-
-#define ZULGEN_INLINE inline __attribute__((always_inline))
 
 namespace zulgen {
 
-// run<Memory>(x, y): stages 0 to order - 1 on 2^order contiguous samples.
-template <class T, int order>
-struct Row;
+// run(x, y): stages 0 to order - 1 on the 2^order samples from x on, which may have any alignment;
+// y.store(i, v) takes vector i of the results.
+template <class V, int order>
+struct RowTransform;
 
-// run<Memory>(x, y, s): the stages between `rows` rows, on one vector of each; the result times s
-// if `is_scaled`.
-template <class T, int rows, bool is_scaled>
-struct Column;
+// run(x, y): the stages between `rows` rows, on one vector of each: x.load(row), y.store(row, v).
+template <class V, int rows>
+struct ColumnTransform;
 
-inline F4 all(float x) { return allF4(x); }
-inline D2 all(double x) { return allD2(x); }
-
-template <class T>
-using VectorOf = decltype(Aligned::load(static_cast<const T*>(nullptr)));
-
-// Loads in one way, stores in another.
-template <class Load, class Store>
-struct Memory {
-  template <class T>
-  static auto load(const T* p) {
-    return Load::load(p);
-  }
-  template <class T, class Vector>
-  static void store(T* p, Vector v) {
-    Store::store(p, v);
-  }
+// Rows to write, times a factor.
+template <class V, class Access>
+struct ScaledRows {
+  Rows<V, Access> rows;
+  SampleOf<V> factor;
+  ZULGEN_BODY void store(int row, V v) const { rows.store(row, factor * v); }
 };
 
-// Where a column body finds its vectors: vector r of the packed ones lies in row r of a matrix.
-template <class T, int row_length>
-struct Rows {
-  T* first;
-  constexpr T* operator+(int element) const {
-    constexpr int kLanes = 16 / sizeof(T);
-    return first + element / kLanes * row_length;
-  }
-};
-
-template <class T, int order, class Load>
-ZULGEN_INLINE void row_pass(const T* x, T* y, int samples) {
+// The main area and the scratch block are aligned, and rows of blocks lie side by side there.
+template <class V, int order>
+ZULGEN_BODY void row_pass(const SampleOf<V>* x, SampleOf<V>* y, int samples) {
   for (int at = 0; at < samples; at += 1 << order) {
-    Row<T, order>::template run<Memory<Load, Aligned>>(x + at, y + at);
+    RowTransform<V, order>::run(x + at, Rows<V>{y + at, kLanes<V>});
   }
 }
 
-template <class T, int rows, int columns, bool is_scaled, class Store>
-ZULGEN_INLINE void column_pass(const T* x, T* y, VectorOf<T> s) {
-  for (int at = 0; at < columns; at += 16 / static_cast<int>(sizeof(T))) {
-    Column<T, rows, is_scaled>::template run<Memory<Aligned, Store>>(Rows<const T, columns>{x + at},
-                                                                     Rows<T, columns>{y + at}, s);
+// `destination(at)` takes the results of the columns from `at` on.
+template <class V, int rows>
+ZULGEN_BODY void column_pass(const SampleOf<V>* x, int columns, const auto& destination) {
+  for (int at = 0; at < columns; at += kLanes<V>) {
+    ColumnTransform<V, rows>::run(SourceRows<V>{x + at, columns}, destination(at));
   }
 }
 
-// A transform by its plan. `Access` is how source and destination are reached; the work buffer is
-// aligned always. The source is read by the row passes alone and the destination written by the
-// last pass alone, so the two may be one array.
-template <class T, int order, class Access>
-ZULGEN_INLINE void run_passes(const T* source, T* destination, VectorOf<T> s, T* work) {
-  constexpr wht::Plan plan = wht::plan_of<T>(order);
+// A transform by its plan. `Access` is how the destination is reached; the source may have any
+// alignment, the work buffer is aligned always. The source is read by the row passes alone and the
+// destination written by the last pass alone, so the two may be one array.
+template <class V, int order, class Access>
+ZULGEN_BODY void run_passes(const SampleOf<V>* source, SampleOf<V>* destination, SampleOf<V> factor,
+                            SampleOf<V>* work) {
+  constexpr wht::Plan plan = wht::plan_of<SampleOf<V>>(order);
   if constexpr (plan.segment_rows == 0) {
-    row_pass<T, plan.row_order, Access>(source, work, plan.length());
+    row_pass<V, plan.row_order>(source, work, plan.length());
   } else {
-    T* const scratch = work + plan.length();
+    SampleOf<V>* const scratch = work + plan.length();
     for (int at = 0; at < plan.length(); at += plan.segment()) {
-      row_pass<T, plan.row_order, Access>(source + at, scratch, plan.segment());
-      column_pass<T, plan.segment_rows, plan.block(), false, Aligned>(scratch, work + at, s);
+      row_pass<V, plan.row_order>(source + at, scratch, plan.segment());
+      column_pass<V, plan.segment_rows>(scratch, plan.block(), [&](int column) {
+        return Rows<V>{work + at + column, plan.block()};
+      });
     }
   }
-  column_pass<T, plan.rows, plan.columns(), true, Access>(work, destination, s);
+  column_pass<V, plan.rows>(work, plan.columns(), [&](int column) {
+    return ScaledRows<V, Access>{{destination + column, plan.columns()}, factor};
+  });
 }
 
 }  // namespace zulgen

@@ -15,10 +15,12 @@ using gen::Graph;
 // The accessors' numbers.
 constexpr int kSource = 0, kTable = 1, kSecondTable = 2;
 
+int lanes_of(gen::Precision precision) { return precision == gen::Precision::kSingle ? 4 : 2; }
+
 class Builder {
  public:
   Builder(const Row& row, gen::Precision precision)
-      : row_(row), lanes_(precision == gen::Precision::kSingle ? 4 : 2), graph_(precision) {}
+      : row_(row), lanes_(lanes_of(precision)), graph_(precision) {}
 
   Graph build() {
     switch (row_.kind) {
@@ -116,40 +118,27 @@ class Builder {
 
 gen::Body describe(const Row& row, gen::Precision precision) {
   const bool single = precision == gen::Precision::kSingle;
+  const int lanes = lanes_of(precision);
   gen::Body body;
-  body.name = (single ? "owngDCT4_32fw7_" : "owngDCT4_64fw7_") + name(row);
-  body.family = single ? "dct4_32f" : "dct4_64f";
+  body.declared_in = "dct4/bodies.h";
+  body.header = single ? "dct4_32f.h" : "dct4_64f.h";
   for (int radix : row.radices) {
     body.recipe += (body.recipe.empty() ? "split by " : ", ") + std::to_string(radix);
   }
   if (row.radices.empty()) body.recipe = "direct";
-  body.precision = precision;
-  body.order = gen::parse_order(single ? row.order_32f : row.order_64f);
-  switch (row.kind) {
-    case Kind::kFirstStage:
-      body.accessors = {"x"};
-      break;
-    case Kind::kSkewSum:
-      body.accessors = {"x", "w"};
-      if (row.size > 8) body.accessors.push_back("v");
-      break;
-    case Kind::kSecondStage:
-      body.accessors = {"x", "w"};
-      body.source_elements = 2 * row.size * (single ? 4 : 2);
-      break;
-    case Kind::kBaseCase:
-      break;
-  }
+  const char* templates[] = {"FirstStage", "SkewSum", "SecondStage", "BaseCase"};
+  const bool is_scalar = row.kind == Kind::kBaseCase;
+  body.name = gen::specialisation(templates[static_cast<int>(row.kind)], precision,
+                                  is_scalar ? 1 : lanes, row.size);
+  if (!is_scalar) body.accessors = {"x"};
+  if (row.kind == Kind::kSkewSum || row.kind == Kind::kSecondStage) body.accessors.push_back("w");
+  if (row.kind == Kind::kSkewSum && row.size > 8) body.accessors.push_back("v");
+  if (row.kind == Kind::kSecondStage) body.source_elements = 2 * row.size * lanes;
   body.graph = [row, precision] { return graph(row, precision); };
   return body;
 }
 
 }  // namespace
-
-std::string name(const Row& row) {
-  const char* kinds[] = {"first_stage_", "skew_sum_", "second_stage_", "base_case_"};
-  return kinds[static_cast<int>(row.kind)] + std::to_string(row.size);
-}
 
 gen::Graph graph(const Row& row, gen::Precision precision) {
   return Builder(row, precision).build();

@@ -21,18 +21,13 @@ struct Row {
   Kind kind;
   int size;
   std::vector<int> radices;  // of the splits; none in a skew transform, whose splits are fixed
-  const char* order_32f;     // as measured fastest, in the notation of gen/schedule.h
-  const char* order_64f;
 };
 extern const std::vector<Row> kRows;
-
-// "first_stage_16" and the like: the name without what stands for the sample type.
-std::string name(const Row& row);
 
 // The data flow, with all lanes of a vector taking part in the same operations.
 gen::Graph graph(const Row& row, gen::Precision precision);
 
-// All kernels in both precisions.
+// All kernels in both precisions, as dct4/bodies.h declares them.
 std::vector<gen::Body> bodies();
 
 // The exported functions.

@@ -1,7 +1,7 @@
 // The data flow of the kernels and of their passes.
 #include "gen/expr.h"
 #include "networks/walsh_hadamard.h"
-#include "wht/wht.h"
+#include "wht/kernels/kernels.h"
 
 namespace wht {
 namespace {
@@ -12,9 +12,6 @@ using gen::Lane;
 using gen::Precision;
 using networks::walsh_hadamard;
 using Vectors = std::vector<Expr>;
-
-// Samples in a vector; the low log2(lanes) bits of an index tell the lane.
-int lanes_of(Precision precision) { return precision == Precision::kSingle ? 4 : 2; }
 
 // Whether an order is too short for vectors.
 bool is_scalar(Precision precision, int order) {
@@ -91,18 +88,21 @@ void transform_columns(Vectors& area, int begin, int rows, int vectors_in_row) {
   }
 }
 
-void store(Graph& graph, const Vectors& vectors) {
+// To the elements of the destination.
+void store_scaled(Graph& graph, const Vectors& vectors) {
+  graph.begin_stage({"s", "scaled"});
   int element = 0;
   for (const Expr& vector : vectors) {
-    const int lanes = graph[vector.value.node].lane_count;
-    for (int lane = 0; lane < lanes; ++lane) graph.output(element++, vector.value, lane);
+    const gen::Value scaled = graph.scale(vector.value);
+    const int lanes = graph[scaled.node].lane_count;
+    for (int lane = 0; lane < lanes; ++lane) graph.output(element++, scaled, lane);
   }
 }
 
-void store_scaled(Graph& graph, Vectors vectors) {
-  graph.begin_stage({"s", "scaled"});
-  for (Expr& vector : vectors) vector.value = graph.scale(vector.value);
-  store(graph, vectors);
+// To an accessor of whole vectors.
+void output_vectors(Graph& graph, const Vectors& vectors) {
+  int row = 0;
+  for (const Expr& vector : vectors) graph.output(row++, vector.value);
 }
 
 Graph scalar_graph(Precision precision, int order) {
@@ -131,24 +131,22 @@ Graph long_graph(Precision precision, const Plan& plan) {
 
 }  // namespace
 
+int lanes_of(Precision precision) { return precision == Precision::kSingle ? 4 : 2; }
+
 Graph row_graph(Precision precision, int row_order) {
   Graph graph(precision);
-  store(graph, transform_block(graph, 0, row_order));
+  output_vectors(graph, transform_block(graph, 0, row_order));
   return graph;
 }
 
-Graph column_graph(Precision precision, int rows, bool is_scaled) {
+Graph column_graph(Precision precision, int rows) {
   Graph graph(precision);
-  const int lanes = lanes_of(precision);
   Vectors vectors;
   for (int r = 0; r < rows; ++r) {
-    std::vector<Lane> picks;
-    for (int i = 0; i < lanes; ++i) picks.push_back({graph.input(r * lanes + i).node, 0});
-    vectors.push_back({&graph, graph.lanes(picks)});
+    vectors.push_back({&graph, graph.fetch(0, r, lanes_of(precision))});
   }
   graph.begin_stage({"b", "stages between rows"});
-  vectors = walsh_hadamard(vectors);
-  is_scaled ? store_scaled(graph, vectors) : store(graph, vectors);
+  output_vectors(graph, walsh_hadamard(vectors));
   return graph;
 }
 

@@ -2,9 +2,9 @@
 // kernels of the short orders, and the bodies of the long orders' passes.
 #pragma once
 
-#include <string>
 #include <vector>
 
+#include "gen/body.h"
 #include "gen/kernel.h"
 #include "wht/plans.h"
 
@@ -14,13 +14,16 @@ namespace wht {
 // graphs are what the passes compute.
 std::vector<gen::Kernel> kernels();
 
-// The bodies of the passes as a header.
-std::string body_header();
+// The bodies of the passes, as wht/passes.h declares them.
+std::vector<gen::Body> bodies();
 
-// What a pass does to one block of 2^row_order contiguous samples, or to one vector of columns.
-// Elements of the source and of the destination are those of the block, or one packed vector a row.
+// Samples in a vector; the low log2(lanes) bits of an index tell the lane.
+int lanes_of(gen::Precision precision);
+
+// What a pass does to one block of 2^row_order contiguous samples, and to one vector of columns,
+// vector r of which stands in row r. Results are whole vectors; a column's aren't scaled.
 gen::Graph row_graph(gen::Precision precision, int row_order);
-gen::Graph column_graph(gen::Precision precision, int rows, bool is_scaled);
+gen::Graph column_graph(gen::Precision precision, int rows);
 
 // What the kernel of an order computes, in all its passes.
 gen::Graph kernel_graph(gen::Precision precision, int order);

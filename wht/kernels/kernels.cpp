@@ -1,4 +1,4 @@
-#include "wht/wht.h"
+#include "wht/kernels/kernels.h"
 
 namespace wht {
 namespace {
