@@ -18,8 +18,12 @@ endif()
 # Code inside the shared libraries. Each function has a section of its own, so that a program that
 # links an archive can leave out what it doesn't call.
 add_library(zulgen_library_code INTERFACE)
+set(optimisation -O2)
+if(ZULGEN_SANITIZE)
+  set(optimisation -O0)
+endif()
 target_compile_options(zulgen_library_code INTERFACE $<$<COMPILE_LANGUAGE:CXX>:
-  -O2 -fPIC -fomit-frame-pointer -ffp-contract=off -fno-exceptions -fno-rtti
+  ${optimisation} -fPIC -fomit-frame-pointer -ffp-contract=off -fno-exceptions -fno-rtti
   -fno-asynchronous-unwind-tables -fno-stack-protector -ffunction-sections
   ${ZULGEN_SANITIZERS}>)
 target_include_directories(zulgen_library_code INTERFACE

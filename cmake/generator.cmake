@@ -1,24 +1,36 @@
 # The generator: a program of the host that writes the kernels' sources during the build.
 
-file(GLOB ZULGEN_CODEGEN_SOURCES CONFIGURE_DEPENDS
-  ${PROJECT_SOURCE_DIR}/gen/*.cpp
-  ${PROJECT_SOURCE_DIR}/generate/*.cpp
-  ${PROJECT_SOURCE_DIR}/networks/*.cpp
+# The passes and the networks, which know no family.
+file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/gen/*.cpp)
+file(GLOB networks CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/networks/*.cpp)
+add_library(codegen_passes STATIC EXCLUDE_FROM_ALL ${sources} ${networks})
+target_include_directories(codegen_passes PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(codegen_passes PUBLIC zulgen_program)
+
+# The families, and what is above them.
+file(GLOB sources CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/dft_complex/*.cpp
   ${PROJECT_SOURCE_DIR}/dft_real/*.cpp
   ${PROJECT_SOURCE_DIR}/hartley/*.cpp
   ${PROJECT_SOURCE_DIR}/wht/kernels/*.cpp
-  ${PROJECT_SOURCE_DIR}/dct4/kernels/*.cpp)
-list(REMOVE_ITEM ZULGEN_CODEGEN_SOURCES ${PROJECT_SOURCE_DIR}/generate/main.cpp)
+  ${PROJECT_SOURCE_DIR}/dct4/kernels/*.cpp
+  ${PROJECT_SOURCE_DIR}/generate/*.cpp)
+list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/generate/main.cpp)
+add_library(codegen STATIC EXCLUDE_FROM_ALL ${sources})
+target_link_libraries(codegen PUBLIC codegen_passes)
 
-add_library(codegen STATIC EXCLUDE_FROM_ALL ${ZULGEN_CODEGEN_SOURCES})
-target_include_directories(codegen PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(codegen PUBLIC zulgen_program)
-# Its assertions are cheap, and stay.
-target_compile_options(codegen PRIVATE -UNDEBUG -O2)
+# Assertions are cheap, and stay.
+foreach(library codegen_passes codegen)
+  target_compile_options(${library} PRIVATE -UNDEBUG)
+  if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    target_compile_options(${library} PRIVATE -O2)
+  endif()
+endforeach()
 
-add_executable(zulgen-generate generate/main.cpp)
-target_link_libraries(zulgen-generate PRIVATE codegen)
+if(NOT ZULGEN_SANITIZE)
+  add_executable(zulgen-generate generate/main.cpp)
+  target_link_libraries(zulgen-generate PRIVATE codegen)
+endif()
 
 # The files that every family's kernels are spread over.
 set(ZULGEN_SHARDS dft_complex_32fc=12 dft_complex_64fc=12 dft_real_32f=16 dft_real_64f=16

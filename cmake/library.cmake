@@ -23,6 +23,9 @@ function(zulgen_shared_library name)
     ${options} -nostdlib -Wl,--version-script=${ARG_EXPORTS}
     -Wl,-z,defs,-z,text,-z,relro,-z,now,-z,noexecstack)
   target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} gcc)
+  if(ZULGEN_SANITIZE)
+    target_link_libraries(${name} PRIVATE asan ubsan)
+  endif()
   set(targets ${name})
   if(ARG_WITH_ARCHIVE)
     list(APPEND targets ${name}_static)
@@ -60,11 +63,33 @@ endfunction()
 set_source_files_properties(dct4/dct4_32f.cpp dct4/dct4_64f.cpp PROPERTIES COMPILE_OPTIONS
   "-fno-builtin-sinf;-fno-builtin-cosf;-fno-builtin-sin;-fno-builtin-cos")
 
+# zulgen_allocator(target): the companion.
+function(zulgen_allocator target)
+  zulgen_objects(zulcore_objects_${target} ${target} core/zulcore.cpp)
+  zulgen_shared_library(zulcore_${target} TARGET ${target} OUTPUT_NAME zulcore WITH_ARCHIVE
+    EXPORTS ${PROJECT_SOURCE_DIR}/core/zulcore.map
+    OBJECTS $<TARGET_OBJECTS:zulcore_objects_${target}> LIBRARIES c)
+endfunction()
+
+set(handwritten wht/long_orders.cpp dct4/dct4_32f.cpp dct4/dct4_64f.cpp)
+
+if(ZULGEN_SANITIZE)
+  # What is written by hand, and the short Walsh-Hadamard orders, which are tested with the long ones,
+  # over generated sources of another build.
+  set(target ${ZULGEN_FIRST_TARGET})
+  set(ZULGEN_TARGETS ${target})
+  set(ZULGEN_GENERATED_DIR_${target} ${ZULGEN_GENERATED}/${target})
+  file(GLOB kernels ${ZULGEN_GENERATED}/${target}/wht_*.0.cpp)
+  zulgen_objects(zulgens8_${target} ${target} ${handwritten} wht/buffer_size.cpp ${kernels})
+  target_include_directories(zulgens8_${target} INTERFACE ${PROJECT_SOURCE_DIR}/include)
+  zulgen_allocator(${target})
+  return()
+endif()
+
 foreach(target IN LISTS ZULGEN_LIBRARIES)
   zulgen_generate(${target})
   zulgen_objects(zulgen_kernels_${target} ${target}
-    ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_HEADERS} ${ZULGEN_EXPORTS}
-    wht/long_orders.cpp dct4/dct4_32f.cpp dct4/dct4_64f.cpp)
+    ${handwritten} ${ZULGEN_KERNEL_SOURCES} ${ZULGEN_HEADERS} ${ZULGEN_EXPORTS})
   target_link_libraries(zulgen_kernels_${target} PRIVATE zulgen_kernel_code)
   # The compiler's headers of vector operations take longer to read than many a kernel to compile.
   target_precompile_headers(zulgen_kernels_${target} PRIVATE
@@ -74,10 +99,7 @@ foreach(target IN LISTS ZULGEN_LIBRARIES)
   set(archive)
   if(ZULGEN_ARCHITECTURE_${target} STREQUAL target)
     set(archive WITH_ARCHIVE)
-    zulgen_objects(zulcore_objects_${target} ${target} core/zulcore.cpp)
-    zulgen_shared_library(zulcore_${target} TARGET ${target} OUTPUT_NAME zulcore WITH_ARCHIVE
-      EXPORTS ${PROJECT_SOURCE_DIR}/core/zulcore.map
-      OBJECTS $<TARGET_OBJECTS:zulcore_objects_${target}> LIBRARIES c)
+    zulgen_allocator(${target})
   endif()
   zulgen_shared_library(zulgens8_${target} TARGET ${target} OUTPUT_NAME zulgens8 ${archive}
     EXPORTS ${ZULGEN_EXPORTS}
