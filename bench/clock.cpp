@@ -9,14 +9,15 @@
 namespace bench {
 namespace {
 
-constexpr int kChainCycles = 1200;
-constexpr double kSampleCycles = 30000;
+constexpr int kChainCycles = 4800;  // some processors count time in steps of 25
+constexpr double kSampleCycles = 40000;
 constexpr double kClockTolerance = 0.02;   // between the two chains around a sample
 constexpr double kCanaryTolerance = 0.05;  // over the quiet core
 // A kernel can run at several speeds, by where its code happens to sit in the core's caches; every
 // sample has one of them. Sorted samples form a cluster as long as neighbours are this close.
 constexpr double kClusterGap = 0.01;
 constexpr int kSmallestCluster = 31;
+constexpr int kPatience = 1000;      // canaries to wait for a quiet one
 constexpr double kAgreement = 0.03;  // of two passes
 constexpr int kMostPasses = 12;
 
@@ -30,7 +31,7 @@ double ticks(const std::function<void()>& work) {
   return static_cast<double>(end - begin);
 }
 
-// 400 dependent multiplications of three cycles each.
+// 1600 dependent multiplications of three cycles each.
 void chain() {
   unsigned x = 3;
   for (int i = 0; i < kChainCycles / 30; ++i) {
@@ -45,7 +46,7 @@ void chain() {
 // with two instructions beside it that take nothing but their place.
 void ports() {
   __m128 a = _mm_setzero_ps(), b = a, c = a, d = a, e = a, f = a;
-  for (int i = 0; i < 100; ++i) {
+  for (int i = 0; i < 300; ++i) {
     asm volatile(
         ".macro add x\n addps \\x, \\x\n nopl (%%eax)\n nopl (%%eax)\n .endm\n"
         "add %0\n add %1\n add %2\n add %3\n add %4\n add %5\n"
@@ -58,7 +59,7 @@ void ports() {
 // Two loads and a store at a time.
 void memory() {
   alignas(64) static char block[512];
-  for (int i = 0; i < 40; ++i) {
+  for (int i = 0; i < 150; ++i) {
     asm volatile(
         ".macro move at\n movaps \\at(%0), %%xmm0\n movaps \\at + 16(%0), %%xmm1\n"
         " movaps %%xmm0, \\at + 32(%0)\n .endm\n"
@@ -90,12 +91,11 @@ std::optional<double> lowest_cluster_median(std::vector<double> samples) {
 
 // The number of calls that make a sample.
 int calls_in_sample(const Clock& clock, const Contender& contender) {
-  double fastest = kSampleCycles;
+  double fastest = clock.rough_cycles([&] { contender(10); });
   for (int i = 0; i < 20; ++i) {
-    const auto cycles = clock.sample([&] { contender(10); });
-    if (cycles) fastest = std::min(fastest, *cycles / 10);
+    fastest = std::min(fastest, clock.rough_cycles([&] { contender(10); }));
   }
-  return std::max(1, static_cast<int>(kSampleCycles / fastest));
+  return std::clamp(static_cast<int>(kSampleCycles / (fastest / 10)), 1, 100000);
 }
 
 // The lower of two figures that agree, if the two lowest do.
@@ -111,28 +111,39 @@ std::optional<double> agreed(std::vector<double> figures) {
 Clock::Canaries Clock::canaries() { return {ticks(chain), ticks(ports), ticks(memory)}; }
 
 Clock::Clock() {
-  std::vector<double> empty, ports, memory;
-  for (int i = 0; i < 2000; ++i) {
+  std::vector<double> empty, chain, ports, memory;
+  for (int i = 0; i < 20000; ++i) {
     empty.push_back(ticks([] {}));
-    const Canaries quiet = canaries();
-    ports.push_back(quiet.ports / quiet.chain);
-    memory.push_back(quiet.memory / quiet.chain);
+    const Canaries canary = canaries();
+    chain.push_back(canary.chain);
+    ports.push_back(canary.ports);
+    memory.push_back(canary.memory);
   }
   empty_ticks_ = quantile(empty, 0.5);
-  quiet_ports_ = quantile(ports, 0.1);
-  quiet_memory_ = quantile(memory, 0.1);
+  // However busy the neighbours are, some canaries were alone.
+  const double chain_ticks = quantile(chain, 0.3);
+  cycles_per_tick_ = kChainCycles / (chain_ticks - empty_ticks_);
+  quiet_ports_ = quantile(ports, 0.003) / chain_ticks;
+  quiet_memory_ = quantile(memory, 0.003) / chain_ticks;
+}
+
+double Clock::rough_cycles(const std::function<void()>& work) const {
+  return std::max(1.0, (ticks(work) - empty_ticks_) * cycles_per_tick_);
+}
+
+bool Clock::is_quiet(const Canaries& canary) const {
+  const double limit = (1 + kCanaryTolerance) * canary.chain;
+  return canary.ports <= quiet_ports_ * limit && canary.memory <= quiet_memory_ * limit;
 }
 
 std::optional<double> Clock::sample(const std::function<void()>& work) const {
-  const Canaries before = canaries();
+  Canaries before = canaries();
+  for (int i = 0; i < kPatience && !is_quiet(before); ++i) before = canaries();
+  if (!is_quiet(before)) return std::nullopt;
   const double taken = ticks(work);
   const Canaries after = canaries();
+  if (!is_quiet(after)) return std::nullopt;
   if (std::abs(before.chain - after.chain) > kClockTolerance * before.chain) return std::nullopt;
-  for (const Canaries& canary : {before, after}) {
-    const double limit = (1 + kCanaryTolerance) * canary.chain;
-    if (canary.ports > quiet_ports_ * limit) return std::nullopt;
-    if (canary.memory > quiet_memory_ * limit) return std::nullopt;
-  }
   const double ticks_per_cycle = ((before.chain + after.chain) / 2 - empty_ticks_) / kChainCycles;
   return (taken - empty_ticks_) / ticks_per_cycle;
 }
@@ -158,6 +169,9 @@ std::vector<std::optional<double>> cycles_per_call(const Clock& clock,
       const auto figure = lowest_cluster_median(samples[i]);
       if (figure) figures[i].push_back(*figure);
       if (!result[i]) result[i] = agreed(figures[i]);
+    }
+    if (std::all_of(result.begin(), result.end(), [](const auto& r) { return r.has_value(); })) {
+      break;
     }
   }
   return result;

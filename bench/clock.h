@@ -17,15 +17,21 @@ class Clock {
  public:
   Clock();
 
-  // Runs `work` once; the core cycles that it took, or nothing if a canary was disturbed.
+  // Waits for a quiet moment and runs `work` once; the core cycles that it took, or nothing if
+  // there was no such moment or a canary behind it was disturbed.
   std::optional<double> sample(const std::function<void()>& work) const;
+
+  // The cycles, whoever was about, by the clock as it was at first.
+  double rough_cycles(const std::function<void()>& work) const;
 
  private:
   struct Canaries {
     double chain, ports, memory;
   };
   static Canaries canaries();
+  bool is_quiet(const Canaries& canary) const;
 
+  double cycles_per_tick_;
   double empty_ticks_;                 // what reading the time costs
   double quiet_ports_, quiet_memory_;  // canaries over the chain on a core of one's own
 };

@@ -1,27 +1,39 @@
 #!/bin/sh
-# Measures kernels under many orders of their statements and prints, for each kernel, the order that
-# came out fastest and its cycles, and those of the order that it has now: what the last columns of
-# the families' tables are taken from.
+# Measures kernels of a target under many orders of their statements, and writes the fastest into its
+# table where it is faster than the order that stands there by more than 1 %. Prints a line a kernel:
+# name, best order, its cycles, those of the order that stood there.
 #
-# Usage: bench/tune_orders.sh BUILD_DIR NAME...
-# ORDERS may hold the orders to try, one a line.
+# Usage: bench/tune_orders.sh BUILD_DIR TARGET [NAME...]
+# without names: all kernels of the table. ORDERS may hold the orders to try, one a line.
 set -eu
-build=$1
-shift
+build=$1 target=$2
+shift 2
+root=$(dirname "$(realpath "$0")")/..
+table=$root/targets/$target/kernels.txt
 : "${ORDERS:=$(for i in $(seq 0 31); do echo "bisect $i"; done; for i in $(seq 0 7); do echo "live $i"; done)}"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-# The compiler's command line for a generated file, up to the names of the files.
-compile=$(sed -n 's/^  "command": "\(.*\) -o .*zulgen_kernels.dir.*/\1/p' "$build/compile_commands.json" |
-  head -n 1)
-echo "$ORDERS" >"$work/orders"
+# The compiler's command line for a generated file, up to the names of the files, without the headers
+# that were compiled before.
+compile=$(sed -n "s|^  \"command\": \"\(.*\) -o [^ ]*zulgen_kernels_$target.dir/generated/.*|\1|p" \
+  "$build/compile_commands.json" | head -n 1 | sed 's| -Winvalid-pch -include [^ ]*||')
+architecture=$(echo "$target" | sed 's/-v[0-9]$//')
+[ $# -gt 0 ] || set -- $(sed -n 's/^\(zulg[^ ]*\) .*/\1/p' "$table")
 for name in "$@"; do
+  now=$(sed -n "s/^$name  *//p" "$table")
+  { echo "$now"; echo "$ORDERS" | grep -vx "$now"; } >"$work/orders"
   set --
   while read -r order; do set -- "$@" --order "$order"; done <"$work/orders"
   "$build/bin/zulgen-generate" --variants "$name" "$@" >"$work/variants.cpp"
   $compile -shared -nostdlib -o "$work/variants.so" "$work/variants.cpp"
-  "$build/bin/zulgen-variants" "$work/variants.so" "$name" $(wc -l <"$work/orders") |
-    paste -d, "$work/orders" - | grep -v nan | sort -t, -k2 -n |
-    awk -F, -v name="$name" 'NR == 1 { best = $1; cycles = $2 }
-      END { printf "%s,%s,%s,%s\n", name, best, cycles, $2 }'
+  "$build/bin/zulgen-variants_$architecture" "$work/variants.so" "$name" "$(wc -l <"$work/orders")" |
+    paste -d, "$work/orders" - | grep -v -e '-$' >"$work/times"
+  before=$(sed -n "s/^$now,//p" "$work/times")
+  best=$(sort -t, -k2 -n "$work/times" | head -n 1)
+  echo "$name,$best,$before"
+  if [ -n "$before" ] && [ "$(echo "${best#*,} $before" | awk '{print ($1 < $2 * 0.99)}')" = 1 ]; then
+    awk -v name="$name" -v order="${best%,*}" \
+      '$1 == name {printf "%-27s %s\n", name, order; next} {print}' "$table" >"$work/table"
+    cp "$work/table" "$table"
+  fi
 done

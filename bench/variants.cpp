@@ -10,7 +10,7 @@
 int main(int argc, char** argv) {
   void* const library = argc == 4 ? dlopen(argv[1], RTLD_NOW) : nullptr;
   if (library == nullptr) {
-    std::fputs("usage: zulgen-variants FILE NAME COUNT\n", stderr);
+    std::fprintf(stderr, "%s\n", argc == 4 ? dlerror() : "usage: zulgen-variants FILE NAME COUNT");
     return 2;
   }
   bench::Subject subject;

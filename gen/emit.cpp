@@ -24,8 +24,14 @@ std::string identifier(const Number& number) {
   return result;
 }
 
+// Needs no name.
 bool is_whole(const Number& number) {
-  return number.magnitude() == Number(0) || number.magnitude() == Number(1);
+  return number.value() == 0 || number.value() == 1 || number.value() == -1;
+}
+
+// Twice a scalar, which has an operation of its own.
+bool is_doubling(const Graph& graph, const Node& node) {
+  return node.op == Op::kMul && node.lane_count == 1 && graph.factor(node, 0) == Number(2);
 }
 
 const char* type_name(const Node& node) {
@@ -212,6 +218,7 @@ class BodyWriter {
       case Op::kSub:
         return name(node.a) + " - " + name(node.b);
       case Op::kMul:
+        if (is_doubling(graph_, node)) return "doubled(" + name(node.a) + ")";
         return factor(node) + " * " + name(node.a);
       case Op::kProduct:
         return name(node.a) + " * " + name(node.b);
@@ -318,7 +325,7 @@ std::string emit_constants(const Graph& graph) {
   const std::vector<bool> live = graph.live_nodes();
   for (NodeId id = 0; id < graph.size(); ++id) {
     const Node& node = graph[id];
-    if (!live[id] || node.op != Op::kMul) continue;
+    if (!live[id] || node.op != Op::kMul || is_doubling(graph, node)) continue;
     const bool single = node.precision == Precision::kSingle;
     for (const Number& number : graph.factors(node)) {
       if (is_whole(number)) continue;
