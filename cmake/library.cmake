@@ -7,7 +7,7 @@
 function(zulgen_shared_library name)
   cmake_parse_arguments(ARG "WITH_ARCHIVE" "TARGET;EXPORTS;OUTPUT_NAME" "OBJECTS;LIBRARIES" ${ARGN})
   set(directory ${ZULGEN_LIBRARY_DIR_${ARG_TARGET}})
-  set(options ${ZULGEN_PROGRAM_OPTIONS_${ARG_TARGET}})
+  set(options ${ZULGEN_LINK_OPTIONS_${ARG_TARGET}})
   add_library(${name} SHARED ${ARG_OBJECTS})
   # A library finds the other one beside it, or, if it stands in a level's folder, above that.
   set(rpath "$ORIGIN")

@@ -7,14 +7,15 @@
 include(CheckSourceCompiles)
 
 # zulgen_target(name [TRIPLET triplet PROGRAM_OPTIONS option...] [LEVEL_OF architecture]
-#               LIBRARY_OPTIONS option...)
+#               LIBRARY_OPTIONS option... [LINK_OPTIONS option...])
 #
 # For an architecture, ZULGEN_PROGRAM_OPTIONS_name is what makes a program of it, and the target
 # zulgen_program_name what a program of ours is linked with. ZULGEN_LIBRARY_DIR_name is the folder of
 # its libraries in the build, ZULGEN_ARCHITECTURE_name an architecture's own name or that of a level's
 # architecture.
 function(zulgen_target name)
-  cmake_parse_arguments(ARG "" "TRIPLET;LEVEL_OF" "PROGRAM_OPTIONS;LIBRARY_OPTIONS" ${ARGN})
+  cmake_parse_arguments(ARG "" "TRIPLET;LEVEL_OF" "PROGRAM_OPTIONS;LIBRARY_OPTIONS;LINK_OPTIONS"
+    ${ARGN})
   if(ARG_LEVEL_OF)
     set(architecture ${ARG_LEVEL_OF})
     set(triplet ${ZULGEN_TRIPLET_${architecture}})
@@ -34,6 +35,7 @@ function(zulgen_target name)
   set(ZULGEN_TRIPLET_${name} ${triplet} PARENT_SCOPE)
   set(ZULGEN_PROGRAM_OPTIONS_${name} ${options} PARENT_SCOPE)
   set(ZULGEN_LIBRARY_OPTIONS_${name} ${options} ${ARG_LIBRARY_OPTIONS} PARENT_SCOPE)
+  set(ZULGEN_LINK_OPTIONS_${name} ${options} ${ARG_LINK_OPTIONS} PARENT_SCOPE)
   set(ZULGEN_LIBRARY_DIR_${name} ${library_dir} PARENT_SCOPE)
 endfunction()
 

@@ -13,15 +13,22 @@
 // Another name of an exported function, by which the library itself reaches it.
 #define ZULGEN_HIDDEN_NAME(exported) \
   extern "C" __attribute__((visibility("hidden"), alias(#exported)))
-// The second body of a kernel: a function of its own that the exported one jumps to. It doesn't
-// rely on the alignment of anything, the stack included.
-#define ZULGEN_TWIN extern "C" __attribute__((visibility("hidden"), noinline ZULGEN_ALIGNS_STACK))
 // Generated arithmetic that becomes part of the function that calls it.
 #define ZULGEN_BODY inline __attribute__((always_inline))
 
+// The exported function zulgNAME, with its hidden name, of a kernel without vectors. `arguments`
+// declares what `pass` hands on, each in parentheses, to the function NAME that holds the body.
+#define ZULGEN_SCALAR_KERNEL(name, arguments, pass)                          \
+  ZULGEN_EXPORT zulgResult zulg##name arguments { return name pass; }        \
+  ZULGEN_HIDDEN_NAME(zulg##name) zulgResult owng##name arguments;
+// The same of kernels of vectors, the bodies of which are NAME<Aligned> and NAME<Unaligned>: which of
+// them there are is the target's business. A short kernel needs no stack.
+//   ZULGEN_VECTOR_KERNEL(name, arguments, pass)
+//   ZULGEN_SHORT_VECTOR_KERNEL(name, arguments, pass)
+
 namespace zulgen {
 
-// Whether all of these addresses are multiples of 16. Kernels ask by ZULGEN_IS_ALIGNED.
+// Whether all of these addresses are multiples of 16.
 template <class... Pointers>
 bool is_aligned(Pointers... pointers) {
   return __builtin_expect(((reinterpret_cast<uintptr_t>(pointers) | ...) % 16) == 0, 1);

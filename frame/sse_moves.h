@@ -12,6 +12,12 @@ inline __m128d join_halves(__m128d low, __m128d high) {
   return high;
 }
 
+inline __m128d load_unaligned(const double* p) { return _mm_loadh_pd(_mm_load_sd(p), p + 1); }
+inline void store_unaligned(double* p, __m128d v) {
+  _mm_storel_pd(p, v);
+  _mm_storeh_pd(p + 1, v);
+}
+
 // 2 * x: a product, written out, as compilers would make a sum of it, for which two busier ports
 // compete.
 inline constexpr float kTwo32f = 2;

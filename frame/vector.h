@@ -25,11 +25,8 @@ struct Aligned {
 struct Unaligned {
   static F4 load(const float* p) { return _mm_loadu_ps(p); }
   static void store(float* p, F4 v) { _mm_storeu_ps(p, v); }
-  static D2 load(const double* p) { return _mm_loadh_pd(_mm_load_sd(p), p + 1); }
-  static void store(double* p, D2 v) {
-    _mm_storel_pd(p, v);
-    _mm_storeh_pd(p + 1, v);
-  }
+  static D2 load(const double* p) { return load_unaligned(p); }
+  static void store(double* p, D2 v) { store_unaligned(p, v); }
 };
 
 // Half a vector, whatever the alignment; the upper half of the result is zero.

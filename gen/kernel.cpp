@@ -48,17 +48,13 @@ std::string check_text(const Kernel& kernel) {
 
 std::string arguments_of(const Kernel& kernel) {
   const std::string type = kernel.sample_type();
-  return "const " + type + "* source, " + type + "* destination, zulgScaleFlag flag";
-}
-
-std::string emit_hidden_name(const Kernel& kernel) {
-  return "ZULGEN_HIDDEN_NAME(" + kernel.name + ") zulgResult " + hidden_name(kernel.name) + "(" +
-         arguments_of(kernel) + (kernel.has_work_argument ? ", void* work" : "") + ");\n";
+  return "(const " + type + "* source, " + type + "* destination, zulgScaleFlag flag" +
+         (kernel.has_work_argument ? ", [[maybe_unused]] void* work)" : ")");
 }
 
 std::string emit_alias(const Kernel& kernel) {
   return "// " + kernel.name + " is " + kernel.same_as + ".\nZULGEN_EXPORT zulgResult " +
-         kernel.name + "(" + arguments_of(kernel) + ")\n    __attribute__((alias(\"" +
+         kernel.name + arguments_of(kernel) + "\n    __attribute__((alias(\"" +
          kernel.same_as + "\")));\n";
 }
 
@@ -72,8 +68,6 @@ Kernel kernel_of(const Signature& signature) {
   kernel.source_elements = kernel.destination_elements = parts * signature.length();
   return kernel;
 }
-
-std::string Kernel::twin_name() const { return hidden_name(name) + "_unaligned"; }
 
 Graph lowered(const Graph& graph, int source_elements, bool loads_halves) {
   const Graph code = absorb_sign_flips(number_from_outputs(graph));
@@ -92,9 +86,6 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
   const std::string element = kernel.is_single() ? "float" : "double";
   const bool vectors = kernel.bodies != Bodies::kOne;
   const std::string arguments = arguments_of(kernel);
-  const auto with_work = [&](const std::string& list, const std::string& work) {
-    return "(" + list + (kernel.has_work_argument ? ", " + work : "") + ")";
-  };
   const std::string body_name = kernel.name.substr(4);
   const bool is_chosen = kernel.direction == Direction::kSelfInverse;
   const std::string factor = is_chosen ? "factor" : "kScale.by_flag[flag]";
@@ -105,7 +96,7 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
   text << heading(kernel, graph, order);
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
-  text << "inline zulgResult " << body_name << "(" << arguments << ") {\n";
+  text << "inline zulgResult " << body_name << arguments << " {\n";
   text << check_text(kernel) << emit_constants(code);
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
@@ -115,24 +106,10 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
   text << emit_body(code, schedule(code, order), style);
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
-  const std::string pass = "source, destination, flag";
-  const std::string aligned = body_name + (vectors ? "<Aligned>(" : "(") + pass + ");\n";
-  const std::string unaligned = body_name + "<Unaligned>(" + pass + ");\n";
-  const bool has_twin = kernel.bodies == Bodies::kTwin;
-  if (has_twin) {
-    text << "ZULGEN_TWIN zulgResult " << kernel.twin_name() << with_work(arguments, "void*")
-         << " {\n  return " << unaligned << "}\n\n";
-  }
-  text << "ZULGEN_EXPORT zulgResult " << kernel.name
-       << with_work(arguments, has_twin ? "void* work" : "void*") << " {\n";
-  if (has_twin) {
-    text << "  if (!ZULGEN_IS_ALIGNED(source, destination)) {\n";
-    text << "    return " << kernel.twin_name() << with_work(pass, "work") << ";\n  }\n";
-  } else if (kernel.bodies == Bodies::kBothInside) {
-    // Too short to need the stack.
-    text << "  if (!is_aligned(source, destination)) return " << unaligned;
-  }
-  text << "  return " << aligned << "}\n" << emit_hidden_name(kernel);
+  static constexpr const char* kFunctions[] = {"SCALAR", "SHORT_VECTOR", "VECTOR"};
+  text << "ZULGEN_" << kFunctions[static_cast<int>(kernel.bodies)] << "_KERNEL(" << body_name
+       << ",\n    " << arguments << ",\n    (source, destination, flag"
+       << (kernel.has_work_argument ? ", work" : "") << "))\n";
   return {text.str(), bound};
 }
 

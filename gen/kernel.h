@@ -11,7 +11,7 @@
 
 namespace gen {
 
-// How a kernel serves arrays that aren't aligned on 16 bytes.
+// How a kernel serves arrays that aren't aligned on 16 bytes, on a target that minds.
 enum class Bodies {
   kOne,         // scalar code, which doesn't mind
   kBothInside,  // two bodies in the exported function
@@ -41,8 +41,6 @@ struct Kernel : Signature {
 
   // The C type of the samples.
   std::string sample_type() const { return "zulg" + type_of(*this); }
-  // The internal function that holds the second body of kTwin.
-  std::string twin_name() const;
 };
 
 // A kernel with the number of samples that its signature tells on either side, without its

@@ -27,20 +27,16 @@ ZULGEN_BODY zulgResult transform(const T* source, T* destination, zulgScaleFlag 
 
 }  // namespace
 
-#define ZULGEN_WHT(order, type, vector)                                                    \
-  ZULGEN_TWIN zulgResult owngWHT_##order##_##type##_unaligned(                             \
-      const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
-    return transform<vector, order, Unaligned>(source, destination, flag, work);           \
-  }                                                                                        \
-  ZULGEN_EXPORT zulgResult zulgWHT_##order##_##type(                                       \
-      const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work) { \
-    if (!ZULGEN_IS_ALIGNED(source, destination)) {                                         \
-      return owngWHT_##order##_##type##_unaligned(source, destination, flag, work);        \
-    }                                                                                      \
-    return transform<vector, order, Aligned>(source, destination, flag, work);             \
-  }                                                                                        \
-  ZULGEN_HIDDEN_NAME(zulgWHT_##order##_##type) zulgResult owngWHT_##order##_##type(        \
-      const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work);
+#define ZULGEN_WHT(order, type, vector)                                                            \
+  template <class Access>                                                                          \
+  ZULGEN_BODY zulgResult WHT_##order##_##type(const zulg##type* source, zulg##type* destination,   \
+                                              zulgScaleFlag flag, void* work) {                    \
+    return transform<vector, order, Access>(source, destination, flag, work);                      \
+  }                                                                                                \
+  ZULGEN_VECTOR_KERNEL(                                                                            \
+      WHT_##order##_##type,                                                                        \
+      (const zulg##type* source, zulg##type* destination, zulgScaleFlag flag, void* work),         \
+      (source, destination, flag, work))
 
 ZULGEN_WHT(8, 32f, F4)
 ZULGEN_WHT(9, 32f, F4)

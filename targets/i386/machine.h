@@ -1,6 +1,8 @@
 // What the calling convention of 32-bit programs means for a kernel.
 #pragma once
 
+#include "frame/two_bodies.h"
+
 // A function that doesn't rely on the alignment of the stack, which old callers align on 4 bytes
 // where newer ones, and compilers of callees, take 16 for granted.
 #define ZULGEN_ALIGNS_STACK , force_align_arg_pointer

@@ -8,6 +8,9 @@ namespace zulgen {
 // The low half of `low` and the high half of `high`.
 inline __m128d join_halves(__m128d low, __m128d high) { return _mm_blend_pd(high, low, 1); }
 
+inline __m128d load_unaligned(const double* p) { return _mm_loadu_pd(p); }
+inline void store_unaligned(double* p, __m128d v) { _mm_storeu_pd(p, v); }
+
 // 2 * x: a product, written out, as compilers would make a sum of it, for which two busier ports
 // compete.
 inline constexpr float kTwo32f = 2;
