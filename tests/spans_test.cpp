@@ -1,9 +1,12 @@
 // The C++ layer: every template calls the function that its name and arguments say.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <random>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "zulgen.hpp"
@@ -44,15 +47,26 @@ std::array<Real, kSize> random_numbers() {
   return result;
 }
 
-// Runs the template, the same by length at run time, and the C function, and compares bits.
-template <std::size_t kSize, class Source, class ByTemplate, class ByLength, class ByName>
-void expect_one(const Source& source, ByTemplate by_template, ByLength by_length, ByName by_name) {
-  std::array<typename Source::value_type, kSize> a{}, b{}, c{};
-  EXPECT_EQ(by_template(source, a), ZULG_OK);
-  EXPECT_EQ(by_length(source, b), ZULG_OK);
-  EXPECT_EQ(by_name(source.data(), c.data()), ZULG_OK);
-  EXPECT_EQ(std::memcmp(a.data(), c.data(), sizeof c), 0) << kSize;
-  EXPECT_EQ(std::memcmp(b.data(), c.data(), sizeof c), 0) << kSize;
+// Runs the template of a length, the same by the arrays' sizes, known when compiling and not, and
+// the C function, and compares bits.
+template <std::size_t kSize, class Source, class ByTemplate, class BySize, class ByName>
+void expect_one(const Source& source, ByTemplate by_template, BySize by_size, ByName by_name) {
+  using Array = std::array<typename Source::value_type, kSize>;
+  Array wanted{};
+  EXPECT_EQ(by_name(source.data(), wanted.data()), ZULG_OK);
+  const std::vector unsized(source.begin(), source.end());
+  const auto expect = [&](auto function, const auto& from) {
+    Array to{};
+    EXPECT_EQ(function(from, to), ZULG_OK);
+    EXPECT_EQ(std::memcmp(to.data(), wanted.data(), sizeof to), 0) << kSize;
+    std::vector<typename Source::value_type> unsized_to(kSize);
+    EXPECT_EQ(function(from, unsized_to), ZULG_OK);
+    EXPECT_EQ(std::memcmp(unsized_to.data(), wanted.data(), sizeof to), 0) << kSize;
+  };
+  expect(by_template, source);
+  expect(by_template, unsized);
+  expect(by_size, source);
+  expect(by_size, unsized);
 }
 
 #define SPANS(call) [](const auto& x, auto& y) { return call(x, y, Scale::kForwardByN); }
@@ -103,15 +117,82 @@ TEST(Spans, ReachTheFunctionOfTheirArguments) {
 TEST(Spans, RefuseSizesThatDontFit) {
   const std::vector<double> samples(8, 1);
   std::vector<double> other(9, 0.5);
+  std::array<double, 8> fixed{};
   const std::vector<std::complex<float>> points(65);
   std::vector<std::complex<float>> same(65), fewer(64);
   EXPECT_EQ(zulgen::hartley(samples, other, Scale::kNone), ZULG_ERR_SIZE);
+  EXPECT_EQ(zulgen::hartley(fixed, other, Scale::kNone), ZULG_ERR_SIZE);
+  EXPECT_EQ(zulgen::hartley<8>(samples, other, Scale::kNone), ZULG_ERR_SIZE);
+  EXPECT_EQ(zulgen::hartley<9>(other, std::span(other).first(8), Scale::kNone), ZULG_ERR_SIZE);
   EXPECT_EQ(zulgen::real_dft_forward<Layout::kCcs>(samples, other, Scale::kNone), ZULG_ERR_SIZE);
+  EXPECT_EQ((zulgen::real_dft_forward<9, Layout::kPack>(samples, std::span(other).first(8),
+                                                        Scale::kNone)),
+            ZULG_ERR_SIZE);
   EXPECT_EQ(zulgen::real_dft_inverse<Layout::kPack>(samples, other, Scale::kNone), ZULG_ERR_SIZE);
   EXPECT_EQ(zulgen::dft_forward(points, same, Scale::kNone), ZULG_ERR_SIZE);
   EXPECT_EQ(zulgen::dft_inverse(points, fewer, Scale::kNone), ZULG_ERR_SIZE);
+  // A size whose lower 32 bits are a length. Nothing is touched, so nothing has to be there.
+  if constexpr (sizeof(std::size_t) > 4) {
+    const std::span<double> huge(other.data(), (std::size_t{1} << 32) + 8);
+    EXPECT_EQ(zulgen::hartley(huge, huge, Scale::kNone), ZULG_ERR_SIZE);
+  }
   EXPECT_EQ(other, std::vector<double>(9, 0.5));
 }
+
+// Calls that don't compile, beside those that do.
+template <class T, std::size_t N>
+using Fixed = std::array<T, N>&;
+using Point = std::complex<float>;
+template <class Src, class Dst>
+concept Complex = requires(Src x, Dst y) {
+  zulgen::dft_forward(x, y, Scale::kNone);
+};
+template <class Src, class Dst>
+concept Inverse12 = requires(Src x, Dst y) {
+  zulgen::dft_inverse<12>(x, y, Scale::kNone);
+};
+template <class Src, class Dst>
+concept HartleyOf = requires(Src x, Dst y) {
+  zulgen::hartley(x, y, Scale::kNone);
+};
+template <class Src, class Dst>
+concept Walsh = requires(Src x, Dst y) {
+  zulgen::walsh_hadamard(x, y, Scale::kNone);
+};
+template <class Src, class Dst>
+concept Planned = requires(Src x, Dst y, zulgen::Dct4<float> plan) {
+  plan(x, y);
+};
+template <class Src, class Dst>
+concept ToCcs = requires(Src x, Dst y) {
+  zulgen::real_dft_forward<Layout::kCcs>(x, y, Scale::kNone);
+  zulgen::real_dft_inverse<Layout::kCcs>(y, x, Scale::kNone);
+};
+
+static_assert(Complex<Fixed<Point, 12>, Fixed<Point, 12>> &&
+              Complex<Point (&)[2], std::span<Point>>);
+static_assert(!Complex<std::span<Point, 12>, std::span<Point, 11>>);
+static_assert(!Complex<Fixed<Point, 65>, Fixed<Point, 65>> && !Complex<Point (&)[1], Point (&)[1]>);
+static_assert(!Complex<Fixed<Point, 8>, Fixed<const Point, 8>> &&
+              !Complex<Fixed<Point, 8>, Fixed<std::complex<double>, 8>> &&
+              !Complex<Fixed<float, 8>, Fixed<float, 8>>);
+static_assert(Inverse12<std::vector<Point>, Fixed<Point, 12>> &&
+              !Inverse12<std::vector<Point>, Fixed<Point, 13>>);
+static_assert(HartleyOf<Fixed<double, 2>, Fixed<double, 2>> &&
+              !HartleyOf<Fixed<double, 2>, Fixed<double, 3>> &&
+              !HartleyOf<Fixed<double, 65>, std::span<double>>);
+static_assert(Walsh<Fixed<float, 8192>, Fixed<float, 8192>> &&
+              !Walsh<Fixed<float, 24>, Fixed<float, 24>> &&
+              !Walsh<Fixed<float, 1>, std::span<float>>);
+static_assert(Planned<Fixed<float, 64>, Fixed<float, 64>> &&
+              !Planned<Fixed<float, 64>, Fixed<float, 32>> &&
+              !Planned<Fixed<double, 64>, Fixed<double, 64>>);
+static_assert(ToCcs<Fixed<float, 6>, Fixed<float, 8>> && ToCcs<Fixed<float, 7>, Fixed<float, 8>> &&
+              !ToCcs<Fixed<float, 6>, Fixed<float, 6>> &&
+              !ToCcs<Fixed<float, 65>, Fixed<float, 66>>);
+static_assert(ToCcs<std::span<float>, Fixed<float, 66>> &&
+              !ToCcs<std::span<float>, Fixed<float, 7>> &&
+              !ToCcs<std::span<float>, Fixed<float, 68>>);
 
 TEST(Spans, WalshHadamardTakesItsOrderFromTheSize) {
   for (const std::size_t n : {2, 128, 256}) {
@@ -153,6 +234,42 @@ TEST(Spans, ADct4PlanMovesAndEnds) {
   EXPECT_EQ(second(y, z), ZULG_OK);
   for (std::size_t i = 0; i < x.size(); ++i) EXPECT_NEAR(z[i] * 2 / 64, x[i], 1e-12);
   EXPECT_EQ(second(x, std::span(y).first(63)), ZULG_ERR_SIZE);
+}
+
+// In memory of the caller's wherever it lies, as long as it is enough there.
+TEST(Spans, ADct4PlanInTheCallersMemory) {
+  std::vector<float> x(32, 1), wanted(32), y(32);
+  zulgen::Dct4<float> plan;
+  ASSERT_EQ(plan.plan(32), ZULG_OK);
+  ASSERT_EQ(plan(x, wanted), ZULG_OK);
+  const std::size_t bytes = plan.plan_bytes(32);
+  alignas(32) std::byte memory[4096];
+  ASSERT_LE(bytes + 64, sizeof memory);
+  for (std::size_t offset = 0; offset < 32; ++offset) {
+    std::fill(std::begin(memory), std::end(memory), std::byte{0x5a});
+    ASSERT_EQ(plan.plan(32, std::span(memory).subspan(offset, bytes)), ZULG_OK);
+    EXPECT_EQ(plan(x, y), ZULG_OK);
+    EXPECT_EQ(y, wanted);
+    EXPECT_EQ(memory[offset + bytes], std::byte{0x5a}) << offset;
+    if (offset > 0) {
+      EXPECT_EQ(memory[offset - 1], std::byte{0x5a}) << offset;
+    }
+  }
+  EXPECT_EQ(plan.plan(32, std::span(memory).subspan(1, bytes - 1)), ZULG_ERR_SIZE);
+  EXPECT_EQ(plan(x, y), ZULG_ERR_SIZE);
+  for (const std::size_t n : {0, 1, 33, 48, 1 << 27, 1 << 29, 1 << 30}) {
+    EXPECT_EQ(plan.plan_bytes(n), 0u);
+    EXPECT_EQ(plan.plan(n, memory), ZULG_ERR_SIZE);
+  }
+  EXPECT_FALSE(zulgen::Dct4<double>::has_length(67108864));
+}
+
+TEST(Spans, ResultsHaveTexts) {
+  std::set<std::string> texts;
+  for (const int result :
+       {ZULG_OK, ZULG_ERR_CONTEXT, ZULG_ERR_SIZE, ZULG_ERR_NULL_PTR, ZULG_ERR_FLAG, 1})
+    texts.insert(zulgen::result_text(result));
+  EXPECT_EQ(texts.size(), 6u);
 }
 
 }  // namespace
