@@ -1,4 +1,5 @@
-/* zulgen: signal transforms of short, fixed length for 32-bit x86 Linux with SSE2.
+/* zulgen: signal transforms of short, fixed length for x86 Linux, 64-bit and 32-bit, on processors
+ * with SSE3.
  *
  * This header declares all of libzulgens8.so.6.1. It is C89 and C++.
  *
@@ -12,9 +13,13 @@
  *   zulgen/dct4.h              DCT-IV of a length chosen at run time
  *   zulgen/dispatch.h          the kernels, of a length known at run time only
  *
- * Every function is safe to call from any number of threads at once, as long as no two calls write
- * to the same array. None prints, exits or keeps anything after it returns. None allocates, but for
- * the long Walsh-Hadamard transforms if they are given no work buffer.
+ * Functions may be called from any number of threads at once, as long as no call writes to memory
+ * that another one uses: an array, a Walsh-Hadamard work buffer, or a DCT-IV plan of more than 32
+ * samples, which holds work buffers.
+ *
+ * None prints, exits or keeps anything after it returns. The allocator, zulMalloc and zulFree of
+ * zulcore.h, is called by zulgDCT4InitAlloc and zulgDCT4Free, and by the long Walsh-Hadamard
+ * transforms if they are given no work buffer; by nothing else.
  */
 #ifndef ZULGEN_H
 #define ZULGEN_H

@@ -134,17 +134,19 @@ TYPED_TEST(Dct4, GivesTheSameBitsEverywhere) {
     int size = 0;
     ASSERT_EQ(TypeParam::get_size(n, &size), ZULG_OK);
     const std::size_t bytes = n * sizeof(Sample);
-    // Off 32 bytes a base case takes all of its size, and 32 bytes more above half of the address
+    // A block off 32 bytes is 32 bytes longer: base cases need these above half of a 32-bit address
     // space.
     harness::GuardedArray block(size + 64), source(bytes + 16), destination(bytes + 16);
-    char* const blocks[] = {block.at_end(size, 0), block.at_begin(1), block.at_begin(31)};
-    for (int place = 0; place < 3; ++place) {
+    char* const blocks[] = {block.at_end(size, 0), block.at_begin(1), block.at_begin(11),
+                            block.at_begin(31)};
+    for (int place = 0; place < 4; ++place) {
       const auto put = [&](harness::GuardedArray& array) {
         return reinterpret_cast<Sample*>(place == 0 ? array.at_end(bytes, bytes % 16)
                                                     : array.at_begin((place - 1) * sizeof(Sample)));
       };
       Sample *const src = put(source), *const dst = put(destination);
       destination.fill(0x5a);
+      block.fill(0x5a);
       std::copy(x.begin(), x.end(), src);
       source.set_writable(false);
       EXPECT_TRUE(harness::runs_without_fault([&] {
@@ -155,6 +157,7 @@ TYPED_TEST(Dct4, GivesTheSameBitsEverywhere) {
         EXPECT_EQ(TypeParam::run(src, dst, spec), ZULG_OK);
       })) << n;
       source.set_writable(true);
+      EXPECT_TRUE(block.is_intact(0x5a, blocks[place], size + (place == 0 ? 0 : 32))) << n;
       EXPECT_TRUE(std::equal(wanted.begin(), wanted.end(), dst)) << n;
       EXPECT_TRUE(destination.is_intact(0x5a, reinterpret_cast<char*>(dst), bytes)) << n;
     }
@@ -183,6 +186,7 @@ TYPED_TEST(Dct4, RefusesWhatItCant) {
       EXPECT_EQ(TypeParam::init(&spec, n, buffer.data()), ZULG_ERR_SIZE) << n;
     }
   }
+  EXPECT_NE(buffer, untouched);
   const int held = blocks_held;
   has_memory = false;
   EXPECT_EQ(TypeParam::init_alloc(&spec, 64), ZULG_ERR_NULL_PTR);
@@ -201,6 +205,63 @@ TYPED_TEST(Dct4, RefusesWhatItCant) {
     EXPECT_EQ(y, marked);
   }
   EXPECT_EQ(blocks_held, held);
+}
+
+// What GetSize accepts, and InitAlloc after it, of the powers of two and their successors. From
+// 2^27 on the size has overflowed, and no block of it holds even the samples.
+TYPED_TEST(Dct4, AcceptsTheseLengths) {
+  constexpr std::int64_t kSampleBytes = sizeof(typename TestFixture::Sample);
+  const int longest = kSampleBytes == 4 ? 26 : 25;
+  for (int log = 1; log <= 30; ++log) {
+    const bool overflows = log == 30 || (log == 29 && kSampleBytes == 8);
+    for (const int n : {1 << log, (1 << log) + 1}) {
+      const bool is_known = log <= longest && (n % 2 == 0 || n >= TypeParam::kFirstOdd);
+      int size = 0;
+      EXPECT_EQ(TypeParam::get_size(n, &size), is_known || overflows ? ZULG_OK : ZULG_ERR_SIZE)
+          << n;
+      if (is_known && log > 5) {
+        EXPECT_GT(size, n * kSampleBytes) << n;
+      } else if (overflows) {
+        EXPECT_LT(size, n * kSampleBytes) << n;
+      }
+      typename TypeParam::Spec* spec = nullptr;
+      has_memory = false;
+      EXPECT_EQ(TypeParam::init_alloc(&spec, n),
+                is_known || overflows ? ZULG_ERR_NULL_PTR : ZULG_ERR_SIZE);
+      has_memory = true;
+    }
+  }
+}
+
+// A plan of 2 to 32 may be shared by threads, since calls leave it as it is; longer ones work in
+// it.
+TYPED_TEST(Dct4, WorksInItsPlanFrom64On) {
+  for (int n = 2; n <= 256; n *= 2) {
+    int size = 0;
+    ASSERT_EQ(TypeParam::get_size(n, &size), ZULG_OK);
+    std::vector<unsigned char> block(size + 32);
+    typename TypeParam::Spec* spec = nullptr;
+    ASSERT_EQ(TypeParam::init(&spec, n, block.data()), ZULG_OK);
+    const auto before = block;
+    auto x = this->random_samples(n);
+    EXPECT_EQ(TypeParam::run(x.data(), x.data(), spec), ZULG_OK);
+    EXPECT_EQ(block == before, n <= 32) << n;
+  }
+}
+
+// Memory that isn't a plan is found by its rule alone: a plan of the other type has one.
+TYPED_TEST(Dct4, TellsFewThingsFromAPlan) {
+  std::vector<typename TestFixture::Sample> x(8, 1), y(8, 3);
+  std::vector<double> zeros(64);
+  EXPECT_EQ(
+      TypeParam::run(x.data(), y.data(), reinterpret_cast<typename TypeParam::Spec*>(zeros.data())),
+      ZULG_ERR_CONTEXT);
+  EXPECT_EQ(y, std::vector<typename TestFixture::Sample>(8, 3));
+  Dct4<Single>::Plan single(8);
+  Dct4<Double>::Plan full(8);
+  void* const other = sizeof x[0] == 4 ? static_cast<void*>(full.spec) : single.spec;
+  EXPECT_EQ(TypeParam::run(x.data(), y.data(), static_cast<typename TypeParam::Spec*>(other)),
+            ZULG_OK);
 }
 
 // A plan of 2^k + 1 is accepted, is that of 2^k with other addresses, and reaches one element

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cmath>
 #include <map>
 
 #include "tests/harness/subject.h"
+#include "zulgen.h"
 
 namespace {
 
@@ -76,6 +78,31 @@ TEST_P(DispatchEntry, RefusesOtherLengthsFirst) {
     EXPECT_EQ(entry(nullptr, nullptr, length, 3, nullptr), ZULG_ERR_SIZE) << length;
   }
   EXPECT_EQ(destination, 0.5);
+}
+
+// What an impulse becomes is the factor. 1/sqrt(N) is the quotient and root as a program computes
+// them in double, of which 18 aren't the nearest ones; rounded to float all are.
+TEST(ScaleFactors, AreComputedInDouble) {
+  int off = 0;
+  for (int n = 2; n <= 64; ++n) {
+    const zulg64f impulse[64] = {1};
+    const zulg32f single_impulse[64] = {1};
+    zulg64f y[64];
+    zulg32f z[64];
+    const auto expect = [&](zulgScaleFlag flag, double factor) {
+      ASSERT_EQ(zulgHartley_64f(impulse, y, n, flag), ZULG_OK);
+      ASSERT_EQ(zulgHartley_32f(single_impulse, z, n, flag), ZULG_OK);
+      EXPECT_EQ(y[0], factor) << n;
+      EXPECT_EQ(z[0], static_cast<float>(factor)) << n;
+    };
+    expect(ZULG_SCALE_NONE, 1);
+    expect(ZULG_SCALE_FWD_BY_N, 1.0 / n);
+    expect(ZULG_SCALE_BY_SQRT_N, 1 / std::sqrt(static_cast<double>(n)));
+    const long double exact = 1 / sqrtl(n);
+    off += y[0] != static_cast<double>(exact);
+    EXPECT_EQ(z[0], static_cast<float>(exact)) << n;
+  }
+  EXPECT_EQ(off, 18);
 }
 
 INSTANTIATE_TEST_SUITE_P(Manifest, DispatchEntry, testing::ValuesIn(contents().entries),

@@ -54,19 +54,20 @@ void expect_one(const Source& source, ByTemplate by_template, BySize by_size, By
   using Array = std::array<typename Source::value_type, kSize>;
   Array wanted{};
   EXPECT_EQ(by_name(source.data(), wanted.data()), ZULG_OK);
-  const std::vector unsized(source.begin(), source.end());
-  const auto expect = [&](auto function, const auto& from) {
-    Array to{};
+  const auto expect = [&](auto function, const auto& from, auto to) {
     EXPECT_EQ(function(from, to), ZULG_OK);
-    EXPECT_EQ(std::memcmp(to.data(), wanted.data(), sizeof to), 0) << kSize;
-    std::vector<typename Source::value_type> unsized_to(kSize);
-    EXPECT_EQ(function(from, unsized_to), ZULG_OK);
-    EXPECT_EQ(std::memcmp(unsized_to.data(), wanted.data(), sizeof to), 0) << kSize;
+    EXPECT_EQ(std::memcmp(to.data(), wanted.data(), sizeof wanted), 0) << kSize;
   };
-  expect(by_template, source);
-  expect(by_template, unsized);
-  expect(by_size, source);
-  expect(by_size, unsized);
+  const std::vector unsized(source.begin(), source.end());
+  const std::vector<typename Source::value_type> unsized_result(kSize);
+  expect(by_template, source, Array{});
+  expect(by_size, source, Array{});
+  expect(by_size, unsized, unsized_result);
+  if constexpr (kSize == 8) {
+    expect(by_template, unsized, unsized_result);
+    expect(by_size, source, unsized_result);
+    expect(by_size, unsized, Array{});
+  }
 }
 
 #define SPANS(call) [](const auto& x, auto& y) { return call(x, y, Scale::kForwardByN); }

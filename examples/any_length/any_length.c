@@ -6,17 +6,16 @@
  * falls on a bin, and has all of its level there. A length that has no kernel is no accident: the
  * entry says so and writes nothing.
  *
- * Exits with 0; with 1 if a result code, a peak or a level isn't what it must be; with 2 if an
- * argument is no number. */
-#include <errno.h>
-#include <limits.h>
+ * Fails if a result code, a peak or a level isn't what it must be. */
 #include <math.h>
-#include <stdio.h>
-#include <stdlib.h>
 
+#include "program.h"
 #include "zulgen.h"
 
-enum { SHORTEST = 2, LONGEST = 64, EXIT_USAGE = 2 };
+enum { SHORTEST = 2, LONGEST = 64 };
+
+static const Program kProgram = {"any_length", "[length...]", ANY_NUMBER,
+                                 "Finds a tone by transforms of these lengths."};
 
 static const double kPi = 3.14159265358979323846;
 static const double kRate = 1e6;
@@ -83,10 +82,10 @@ static int parse_length(const char* text, int* length) {
 }
 
 int main(int argc, char** argv) {
-  static const char* const kLengths[] = {"7",  "8",  "13", "20", "32", "37",
-                                         "40", "50", "60", "64", "1",  "65"};
-  const char* const* texts = argc > 1 ? (const char* const*)argv + 1 : kLengths;
-  const int count = argc > 1 ? argc - 1 : (int)(sizeof kLengths / sizeof kLengths[0]);
+  static const char* const kLengths[] = {"7",  "8",  "13", "20", "32", "37", "40",
+                                         "50", "60", "64", "1",  "65", NULL};
+  const char* const* texts = (const char* const*)program_operands(&kProgram, argc, argv);
+  if (texts[0] == NULL) texts = kLengths;
   zulg32fc tone[LONGEST];
   for (int n = 0; n < LONGEST; ++n) {
     tone[n].re = cos(2 * kPi * kTone / kRate * n);
@@ -96,16 +95,13 @@ int main(int argc, char** argv) {
   printf("a tone of %.0f kHz, sampled at %.0f kHz\nlength   peak      frequency         level\n",
          kTone / 1e3, kRate / 1e3);
   int status = 0;
-  for (int i = 0; i < count; ++i) {
+  for (; *texts != NULL; ++texts) {
     int length;
-    if (!parse_length(texts[i], &length)) {
-      fprintf(stderr, "usage: any_length [length...]\n");
+    if (!parse_length(*texts, &length)) {
+      complain(&kProgram, *texts, "not a length");
       return EXIT_USAGE;
     }
-    if (!try_length(tone, length)) {
-      fprintf(stderr, "any_length: length %d is not as it must be\n", length);
-      status = 1;
-    }
+    if (!try_length(tone, length)) status = complain(&kProgram, *texts, "not as it must be");
   }
-  return status;
+  return program_end(&kProgram, status);
 }

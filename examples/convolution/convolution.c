@@ -4,12 +4,11 @@
  * samples gives 32 samples of output. The circular convolution that comes of multiplying spectra
  * is wrong in the first 32 places alone, which are dropped.
  *
- * Prints the largest difference from the direct sum, and what the filter does to two tones. Exits
- * with 1 if either is not as it must be. */
+ * Prints the largest difference from the direct sum, and what the filter does to two tones. Fails
+ * if either is not as it must be. */
 #include <math.h>
-#include <stdio.h>
-#include <stdlib.h>
 
+#include "program.h"
 #include "zulgen.h"
 
 enum {
@@ -19,6 +18,9 @@ enum {
   RATE = 48000,        /* a second, and the length of the signal */
   TONE_COUNT = 2
 };
+
+static const Program kProgram = {"convolution", "", 0,
+                                 "Filters a signal by transforms of 64 points."};
 
 static const double kPi = 3.14159265358979323846;
 static const double kCutoff = 4000.0 / RATE;
@@ -141,10 +143,12 @@ static int run(Work* work) {
   return is_right;
 }
 
-int main(void) {
+int main(int argc, char** argv) {
+  program_operands(&kProgram, argc, argv);
   Work* work = calloc(1, sizeof *work);
-  const int is_right = work != NULL && run(work);
+  if (work == NULL) return complain(&kProgram, NULL, "there is no memory");
+  int status = EXIT_SUCCESS;
+  if (!run(work)) status = complain(&kProgram, NULL, "the result is not as exact as it must be");
   free(work);
-  if (!is_right) fprintf(stderr, "convolution: the result is not as exact as it must be\n");
-  return is_right ? 0 : 1;
+  return program_end(&kProgram, status);
 }

@@ -4,15 +4,18 @@
  * matrix (6 bits) and a sign. Sent as +1 and -1 with Gaussian noise on top, the likeliest word is
  * the transform's output of the largest magnitude.
  *
- * Prints error rates beside uncoded bits, the exact rate and the union bound. Exits with 1 if the
+ * Prints error rates beside uncoded bits, the exact rate and the union bound. Fails if the
  * noiseless spectrum isn't exact or a rate isn't what theory says. */
 #include <math.h>
 #include <stdint.h>
-#include <stdio.h>
 
+#include "program.h"
 #include "zulgen.h"
 
 enum { ORDER = 6, L = 64, MESSAGE_BITS = 7, MESSAGES = 128, SIGN = 64, WORDS = 20000, MAX_DB = 5 };
+
+static const Program kProgram = {"hadamard_code", "", 0,
+                                 "Decodes noisy words by a Walsh-Hadamard transform each."};
 
 static const double kPi = 3.14159265358979323846;
 
@@ -124,21 +127,18 @@ static int simulate(int db, uint64_t* random) {
   return fabs(word_errors - WORDS * exact) <= allowed && exact <= bound;
 }
 
-int main(void) {
-  if (!is_exact_without_noise()) {
-    fprintf(stderr, "hadamard_code: a transform of a code word is not exact\n");
-    return 1;
-  }
+int main(int argc, char** argv) {
+  program_operands(&kProgram, argc, argv);
+  if (!is_exact_without_noise())
+    return complain(&kProgram, NULL, "a transform of a code word is not exact");
   printf("%d words of %d bits in %d samples at every level of noise\n\n", WORDS, MESSAGE_BITS, L);
   printf("            bit error rate              word error rate\n");
   printf(" Eb/N0   uncoded   decoded   uncoded   decoded     exact     bound\n");
   uint64_t random = 2024;
   int status = 0;
   for (int db = 0; db <= MAX_DB; ++db) {
-    if (!simulate(db, &random)) {
-      fprintf(stderr, "hadamard_code: at %d dB errors are not as many as theory says\n", db);
-      status = 1;
-    }
+    if (!simulate(db, &random))
+      status = complain(&kProgram, NULL, "at %d dB errors are not as many as theory says", db);
   }
-  return status;
+  return program_end(&kProgram, status);
 }

@@ -5,15 +5,18 @@
  * Frames of 512 samples, 256 apart, give 256 coefficients each. Folding a frame makes time-domain
  * aliases; those of two neighbours cancel when they overlap again, and the recording is back. The
  * coefficients are then quantised, and their bits are compared with those of samples quantised as
- * finely. Exits with 0; with 1 if a check fails or the file can't be read. */
+ * finely. */
+#include <float.h>
 #include <math.h>
-#include <stdio.h>
-#include <stdlib.h>
 
+#include "program.h"
 #include "wav.h"
 #include "zulgen.h"
 
 enum { HALF = 256, FRAME = 2 * HALF, LEVELS = 1 << 18 };
+
+static const Program kProgram = {"mdct", "[recording.wav]", 1,
+                                 "Codes a recording by the windowed MDCT."};
 
 static const double kPi = 3.14159265358979323846;
 static const double kUnit = 1.0 / (1 << 24); /* of a float's rounding */
@@ -56,24 +59,19 @@ static zulgResult synthesise(const Mdct* mdct, const zulg32f* coefficients, zulg
 }
 
 /* Quantises in units of `step` and returns the bits that an ideal coder of single values needs: the
- * entropy of the numbers. A negative result means that there was no memory or a number is too
- * large. */
-static double quantise(const zulg32f* values, size_t count, double step, zulg32f* quantised) {
-  size_t* histogram = calloc(LEVELS, sizeof *histogram);
-  double bits = histogram != NULL ? 0 : -1;
-  for (size_t i = 0; bits >= 0 && i < count; ++i) {
+ * entropy of the numbers. */
+static double quantise(const zulg32f* values, size_t count, double step, size_t* histogram,
+                       zulg32f* quantised) {
+  double bits = 0;
+  memset(histogram, 0, LEVELS * sizeof *histogram);
+  for (size_t i = 0; i < count; ++i) {
     const double level = rint(values[i] / step);
-    if (!(fabs(level) < LEVELS / 2)) {
-      bits = -1;
-    } else {
-      ++histogram[LEVELS / 2 + (int)level];
-      quantised[i] = level * step;
-    }
+    ++histogram[LEVELS / 2 + (int)level];
+    quantised[i] = level * step;
   }
-  for (int i = 0; bits >= 0 && i < LEVELS; ++i) {
+  for (int i = 0; i < LEVELS; ++i) {
     if (histogram[i] > 0) bits -= histogram[i] * log2((double)histogram[i] / count);
   }
-  free(histogram);
   return bits;
 }
 
@@ -92,65 +90,100 @@ static zulgResult synthesise_all(const Mdct* mdct, const zulg32f* coefficients, 
   return result;
 }
 
-/* Four arrays of (frames + 1) * HALF values; `signal` begins and ends with HALF zeros. */
-static int code(const Mdct* mdct, size_t frames, const zulg32f* signal, zulg32f* spectrum,
-                zulg32f* coded, zulg32f* back) {
+/* The power of two that no sample exceeds, and at least 1: what steps are relative to. A frame's
+ * coefficients can't exceed sqrt(FRAME) times that, so that there are levels for all of them. */
+static double full_scale_of(const zulg32f* signal, size_t samples) {
+  double full_scale = 1;
+  for (size_t i = 0; i < samples; ++i) {
+    while (full_scale < fabs(signal[i])) full_scale *= 2;
+  }
+  return full_scale;
+}
+
+typedef struct Arrays { /* of (frames + 1) * HALF values each */
+  zulg32f* signal;      /* begins and ends with HALF zeros */
+  zulg32f *spectrum, *coded, *back;
+  size_t* histogram; /* of LEVELS numbers */
+} Arrays;
+
+/* Returns null, or what is wrong. */
+static const char* code(const Mdct* mdct, size_t frames, const Arrays* arrays) {
+  static const char* const kRefused = "a transform refused its arguments";
+  const zulg32f* signal = arrays->signal;
+  zulg32f* back = arrays->back;
   const size_t samples = (frames + 1) * HALF, coefficients = frames * HALF;
   for (size_t f = 0; f < frames; ++f) {
-    if (analyse(mdct, signal + f * HALF, spectrum + f * HALF) != ZULG_OK) return 0;
+    if (analyse(mdct, signal + f * HALF, arrays->spectrum + f * HALF) != ZULG_OK) return kRefused;
   }
-  if (synthesise_all(mdct, spectrum, frames, back) != ZULG_OK) return 0;
+  if (synthesise_all(mdct, arrays->spectrum, frames, back) != ZULG_OK) return kRefused;
 
-  /* The whole transform is orthogonal, so errors of its steps just add in the norm. A DCT-IV of 256
-   * has 8 levels of a table's value, a product and a sum: 24 u. Window, fold and scale add 5 u, and
-   * so do scale, window and overlap on the way back. */
-  const double allowed = 2 * (24 + 5) * kUnit;
   double norm = 0, worst = 0;
   for (size_t i = 0; i < samples; ++i) {
     norm += (double)signal[i] * signal[i];
     worst = fmax(worst, fabs((double)signal[i] - back[i]));
   }
   norm = sqrt(norm);
+  if (norm == 0) {
+    printf("the recording is silent, and so is what comes back: there is nothing to code\n");
+    return worst == 0 ? NULL : "silence comes back with sounds in it";
+  }
+  /* The whole transform is orthogonal, so errors of its steps just add in the norm. A DCT-IV of 256
+   * has 8 levels of a table's value, a product and a sum: 24 u. Window, fold and scale add 5 u, and
+   * so do scale, window and overlap on the way back. Underflow can't add FLT_MIN. */
+  const double relative = 2 * (24 + 5) * kUnit, allowed = relative * norm + FLT_MIN;
   const double error = norm_of_difference(signal, back, samples);
-  printf("reconstruction: relative error %.2e, allowed %.2e; largest difference %.2e\n\n",
-         error / norm, allowed, worst);
-  int is_right = error <= allowed * norm;
+  printf("reconstruction: relative error %.2e, allowed %.2e; largest difference %.2e\n",
+         error / norm, relative, worst);
+  int is_right = error <= allowed;
 
-  printf("   step       SNR   bits a sample: MDCT   samples\n");
+  const double full_scale = full_scale_of(signal, samples);
+  printf("full scale: %g\n\n   step       SNR   bits a sample: MDCT   samples\n", full_scale);
   for (int exponent = 6; exponent <= 12; exponent += 2) {
-    const double step = ldexp(1, -exponent);
-    const double plain_bits = quantise(signal + HALF, samples - FRAME, step, back);
-    const double bits = quantise(spectrum, coefficients, step, coded);
-    if (bits < 0 || plain_bits < 0) return 0;
-    if (synthesise_all(mdct, coded, frames, back) != ZULG_OK) return 0;
+    const double step = ldexp(full_scale, -exponent);
+    const double plain_bits =
+        quantise(signal + HALF, samples - FRAME, step, arrays->histogram, back);
+    const double bits =
+        quantise(arrays->spectrum, coefficients, step, arrays->histogram, arrays->coded);
+    if (synthesise_all(mdct, arrays->coded, frames, back) != ZULG_OK) return kRefused;
     const double noise = norm_of_difference(signal, back, samples);
     printf("2^-%-2d   %7.2f dB   %17.2f   %7.2f\n", exponent, 20 * log10(norm / noise),
            bits / (samples - FRAME), plain_bits / (samples - FRAME));
     /* The coefficients' noise is the samples', up to rounding. */
-    if (!(fabs(noise - norm_of_difference(spectrum, coded, coefficients)) <= allowed * norm))
-      is_right = 0;
+    const double coded_noise = norm_of_difference(arrays->spectrum, arrays->coded, coefficients);
+    if (!(fabs(noise - coded_noise) <= allowed)) is_right = 0;
   }
-  return is_right;
+  return is_right ? NULL : "the transform is not as exact as it must be";
+}
+
+/* Returns null, or what is wrong. */
+static const char* run(const Recording* recording, Arrays* arrays, size_t frames, size_t size) {
+  Mdct mdct = {.plan = NULL};
+  if (arrays->signal == NULL || arrays->histogram == NULL ||
+      zulgDCT4InitAlloc_32f(&mdct.plan, HALF) != ZULG_OK)
+    return "there is no memory for it";
+  arrays->spectrum = arrays->signal + size;
+  arrays->coded = arrays->spectrum + size;
+  arrays->back = arrays->coded + size;
+  for (int i = 0; i < FRAME; ++i) mdct.window[i] = sin(kPi * (i + 0.5) / FRAME);
+  for (size_t i = 0; i < recording->count; ++i) arrays->signal[HALF + i] = recording->samples[i];
+  const char* problem = code(&mdct, frames, arrays);
+  zulgDCT4Free_32f(mdct.plan);
+  return problem;
 }
 
 int main(int argc, char** argv) {
+  const char* path = program_operands(&kProgram, argc, argv)[0];
+  if (path == NULL) path = DEFAULT_RECORDING;
   Recording recording;
-  if (!wav_read(argc > 1 ? argv[1] : DEFAULT_RECORDING, &recording)) {
-    fprintf(stderr, "mdct: %s\n", recording.problem);
-    return 1;
-  }
-  Mdct mdct = {.plan = NULL};
+  if (!wav_read(path, &recording)) return complain(&kProgram, path, "%s", recording.problem);
+  if (recording.remark[0] != '\0') complain(&kProgram, path, "%s", recording.remark);
   const size_t frames = (recording.count + HALF - 1) / HALF + 1, size = (frames + 1) * HALF;
-  zulg32f* arrays = calloc(4 * size, sizeof *arrays);
-  int is_right = arrays != NULL && zulgDCT4InitAlloc_32f(&mdct.plan, HALF) == ZULG_OK;
-  if (is_right) {
-    for (int i = 0; i < FRAME; ++i) mdct.window[i] = sin(kPi * (i + 0.5) / FRAME);
-    for (size_t i = 0; i < recording.count; ++i) arrays[HALF + i] = recording.samples[i];
-    is_right = code(&mdct, frames, arrays, arrays + size, arrays + 2 * size, arrays + 3 * size);
-  }
-  if (mdct.plan != NULL) zulgDCT4Free_32f(mdct.plan);
-  free(arrays);
+  Arrays arrays = {.signal = calloc(4 * size, sizeof *arrays.signal),
+                   .histogram = malloc(LEVELS * sizeof *arrays.histogram)};
+  const char* problem = run(&recording, &arrays, frames, size);
+  free(arrays.signal);
+  free(arrays.histogram);
   free(recording.samples);
-  if (!is_right) fprintf(stderr, "mdct: a check failed, or there was no memory\n");
-  return is_right ? 0 : 1;
+  return program_end(&kProgram,
+                     problem == NULL ? EXIT_SUCCESS : complain(&kProgram, path, "%s", problem));
 }

@@ -3,24 +3,19 @@
  *   spectrogram [recording.wav [picture.png]]
  *
  * Reads a WAV recording, prints its strongest tones and writes a picture of its spectrogram. Checks
- * that every frame's transform keeps the energy and can be undone. Exits with 0; with 1 if a file
- * is missing or broken or a check fails; with 2 if the command line is wrong. */
+ * that every frame's transform keeps the energy and can be undone. */
 #include <math.h>
-#include <stdio.h>
-#include <stdlib.h>
-#include <string.h>
 
 #include "picture.h"
+#include "program.h"
 #include "spectrogram.h"
 #include "tones.h"
 #include "wav.h"
 
-enum { EXIT_USAGE = 2, TONE_LIMIT = 8 };
+enum { TONE_LIMIT = 8 };
 
-static int complain(const char* subject, const char* problem) {
-  fprintf(stderr, "spectrogram: %s: %s\n", subject, problem);
-  return EXIT_FAILURE;
-}
+static const Program kProgram = {"spectrogram", "[recording.wav [picture.png]]", 2,
+                                 "Prints the strongest tones and draws the spectrogram."};
 
 static void print_recording(const char* name, const Recording* recording) {
   printf("%s: %.2f s, %.0f Hz, %d channel%s of %d-bit %s\n", name,
@@ -29,11 +24,15 @@ static void print_recording(const char* name, const Recording* recording) {
          recording->is_float ? "float" : "PCM");
 }
 
-static void print_tones(const Tone* tones, int count) {
-  printf(count > 0 ? "\nStrongest tones\n" : "\nThere are no tones in it.\n");
+static void print_tones(const Tone* tones, int count, double bin_width) {
+  if (count == 0) {
+    printf("\nNo tone stands out in it.\n");
+    return;
+  }
+  printf("\nStrongest tones, from bins of %.1f Hz; 0 dB is a sine of full scale\n", bin_width);
   for (int i = 0; i < count; ++i) {
     const Note note = nearest_note(tones[i].frequency);
-    printf("%10.2f Hz %7.1f dB   %-3s %+4ld cents\n", tones[i].frequency, tones[i].level, note.name,
+    printf("%10.1f Hz %7.1f dB   %-3s %+4ld cents\n", tones[i].frequency, tones[i].level, note.name,
            lrint(note.cents));
   }
 }
@@ -55,38 +54,36 @@ static int analyse(const Recording* recording, const char* path, const char* pic
   const char* slash = strrchr(path, '/');
   const char* name = slash != NULL ? slash + 1 : path;
   print_recording(name, recording);
-  if (recording->is_cut_short) complain(path, "it ends early; using what is there");
+  if (recording->remark[0] != '\0') complain(&kProgram, path, "%s", recording->remark);
 
   const char* problem =
       spectrogram_compute(recording->samples, recording->count, recording->rate, spectrogram);
-  if (problem != NULL) return complain(path, problem);
+  if (problem != NULL) return complain(&kProgram, path, "%s", problem);
   if (!report_checks(spectrogram))
-    return complain(path, "a transform is not as exact as it must be");
+    return complain(&kProgram, path, "a transform is not as exact as it must be");
 
   Tone tones[TONE_LIMIT];
   const int tone_count = find_tones(spectrogram, tones, TONE_LIMIT);
-  print_tones(tones, tone_count);
+  print_tones(tones, tone_count, recording->rate / FRAME_LENGTH);
 
   problem = picture_write(spectrogram, tones, tone_count, name, picture_path);
-  if (problem != NULL) return complain(picture_path, problem);
+  if (problem != NULL) return complain(&kProgram, picture_path, "%s", problem);
   printf("\nSpectrogram: %s\n", picture_path);
   return EXIT_SUCCESS;
 }
 
 int main(int argc, char** argv) {
-  if (argc > 3 || (argc > 1 && argv[1][0] == '-')) {
-    fprintf(stderr, "usage: spectrogram [recording.wav [picture.png]]\n");
-    return EXIT_USAGE;
-  }
-  const char* path = argc > 1 ? argv[1] : DEFAULT_RECORDING;
-  const char* picture_path = argc > 2 ? argv[2] : "spectrogram.png";
+  char** operands = program_operands(&kProgram, argc, argv);
+  const char* path = operands[0] != NULL ? operands[0] : DEFAULT_RECORDING;
+  const char* picture_path =
+      operands[0] != NULL && operands[1] != NULL ? operands[1] : "spectrogram.png";
   printf("%s, %s\n", zulgenGetLibVersion()->name, zulgenGetLibVersion()->version);
 
   Recording recording;
-  if (!wav_read(path, &recording)) return complain(path, recording.problem);
+  if (!wav_read(path, &recording)) return complain(&kProgram, path, "%s", recording.problem);
   Spectrogram spectrogram;
   const int status = analyse(&recording, path, picture_path, &spectrogram);
   free(spectrogram.levels);
   free(recording.samples);
-  return status;
+  return program_end(&kProgram, status);
 }

@@ -2,6 +2,7 @@
 
 #include <float.h>
 #include <math.h>
+#include <stdbool.h>
 #include <stdint.h>
 #include <stdlib.h>
 #include <string.h>
@@ -70,11 +71,23 @@ static void measure_errors(const Frame* frame, SpectrogramErrors* worst) {
   worst->round_trip = fmax(worst->round_trip, relative(sqrt(difference), norm));
 }
 
+/* The frames that lie within the recording; if none does, all. */
+static void choose_frames(const Spectrogram* spectrogram, size_t* first, size_t* count) {
+  const size_t half = FRAME_LENGTH / 2;
+  const bool is_long = spectrogram->sample_count >= FRAME_LENGTH;
+  *first = is_long ? half / FRAME_HOP : 0;
+  *count = is_long ? (spectrogram->sample_count - half) / FRAME_HOP + 1 - *first
+                   : spectrogram->frame_count;
+}
+
 static void store_frame(const double* power, size_t number, Spectrogram* spectrogram) {
   float* levels = spectrogram->levels + number * FRAME_BINS;
+  size_t first, count;
+  choose_frames(spectrogram, &first, &count);
+  const double weight = number >= first && number - first < count ? 1.0 / count : 0;
   for (int k = 0; k < FRAME_BINS; ++k) {
     levels[k] = 10 * log10(power[k]);
-    spectrogram->mean_power[k] += power[k] / spectrogram->frame_count;
+    spectrogram->mean_power[k] += weight * power[k];
   }
 }
 

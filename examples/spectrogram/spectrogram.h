@@ -25,7 +25,7 @@ typedef struct Spectrogram {
   size_t frame_count; /* frame f is centred on sample f * FRAME_HOP */
   /* dB relative to the strongest, LEVEL_FLOOR to 0: bin b of frame f at [f * FRAME_BINS + b] */
   float* levels;
-  double mean_power[FRAME_BINS];
+  double mean_power[FRAME_BINS]; /* of frames that lie within the recording, if there are such */
   SpectrogramErrors worst;
 } Spectrogram;
 

@@ -3,9 +3,12 @@
 #include <math.h>
 #include <stdbool.h>
 #include <stdio.h>
+#include <stdlib.h>
 
-static const double kLeastDistance = 20; /* Hz */
-static const double kLeastLevel = -60;   /* dB */
+static const double kPi = 3.14159265358979323846;
+static const double kLeastDistance = 20;    /* Hz */
+static const double kLeastLevel = -60;      /* dB */
+static const double kLeastDistinction = 15; /* dB */
 
 static bool is_peak(const double* power, int bin, int reach) {
   for (int k = bin - reach; k <= bin + reach; ++k) {
@@ -16,16 +19,35 @@ static bool is_peak(const double* power, int bin, int reach) {
   return power[bin] > 0;
 }
 
-/* The vertex of the parabola through the levels of the peak's bin and its two neighbours: the log
- * of a Hann window's main lobe is close to one. */
+static int compare(const void* a, const void* b) {
+  const double x = *(const double*)a, y = *(const double*)b;
+  return (x > y) - (x < y);
+}
+
+/* Whether the peak stands out of the bins around it. Noise has an exponential distribution in a bin
+ * of a single frame: one of 10^9 is above its median by that much, and means of frames stray less.
+ */
+static bool stands_out(const double* power, int bin) {
+  enum { REACH = 48 };
+  double around[2 * REACH + 1];
+  int count = 0;
+  for (int k = bin - REACH; k <= bin + REACH; ++k) {
+    if (k >= 0 && k < FRAME_BINS) around[count++] = power[k];
+  }
+  qsort(around, count, sizeof *around, compare);
+  return 10 * log10(power[bin] / around[count / 2]) > kLeastDistinction;
+}
+
+/* The tone whose spectrum under a Hann window, W(d) = sin(pi d) / (pi d (1 - d^2)) at d bins from
+ * it, has the ratio of the peak's bin to its larger neighbour: W(1 - d) / W(d) = (1 + d) / (2 - d).
+ */
 static Tone interpolate_peak(const double* power, int bin, double bin_width) {
-  const double left = log10(power[bin - 1]);
-  const double top = log10(power[bin]);
-  const double right = log10(power[bin + 1]);
-  const double curvature = left - 2 * top + right;
-  if (!isfinite(curvature) || curvature == 0) return (Tone){bin * bin_width, 10 * top};
-  const double offset = 0.5 * (left - right) / curvature;
-  return (Tone){(bin + offset) * bin_width, 10 * (top - 0.25 * (left - right) * offset)};
+  const int side = power[bin + 1] > power[bin - 1] ? 1 : -1;
+  const double ratio = sqrt(power[bin + side] / power[bin]);
+  const double d = fmax(0, (2 * ratio - 1) / (ratio + 1));
+  const double lobe = d == 0 ? 1 : sin(kPi * d) / (kPi * d * (1 - d * d));
+  const double amplitude = 4 * sqrt(power[bin]) / (FRAME_LENGTH * lobe);
+  return (Tone){(bin + side * d) * bin_width, 20 * log10(amplitude)};
 }
 
 int find_tones(const Spectrogram* spectrogram, Tone* tones, int limit) {
@@ -35,16 +57,14 @@ int find_tones(const Spectrogram* spectrogram, Tone* tones, int limit) {
   const int reach = fmax(2, fmin(kLeastDistance / bin_width, FRAME_BINS));
   int count = 0;
   for (int bin = 1; bin < FRAME_BINS - 1; ++bin) {
-    if (!is_peak(power, bin, reach)) continue;
+    if (!is_peak(power, bin, reach) || !stands_out(power, bin)) continue;
     const Tone tone = interpolate_peak(power, bin, bin_width);
     if (count == limit && tone.level <= tones[limit - 1].level) continue;
     int at = count < limit ? count++ : limit - 1;
     for (; at > 0 && tones[at - 1].level < tone.level; --at) tones[at] = tones[at - 1];
     tones[at] = tone;
   }
-  const double strongest = count > 0 ? tones[0].level : 0;
-  for (int i = 0; i < count; ++i) tones[i].level -= strongest;
-  while (count > 0 && tones[count - 1].level < kLeastLevel) --count;
+  while (count > 0 && tones[count - 1].level < tones[0].level + kLeastLevel) --count;
   return count;
 }
 

@@ -6,7 +6,7 @@
 
 typedef struct Tone {
   double frequency; /* Hz */
-  double level;     /* dB relative to the strongest tone */
+  double level;     /* dB relative to a sine of full scale */
 } Tone;
 
 /* A note of the equal-tempered scale with A4 at 440 Hz. */
@@ -16,7 +16,8 @@ typedef struct Note {
 } Note;
 
 /* The peaks of the mean power spectrum, the strongest first: returns how many, at most `limit`.
- * None is within 20 Hz of a stronger one, or 60 dB below the strongest. */
+ * None is within 20 Hz of a stronger one, 60 dB below the strongest, or so little above what is
+ * around it that noise might have made it. */
 int find_tones(const Spectrogram* spectrogram, Tone* tones, int limit);
 
 Note nearest_note(double frequency);

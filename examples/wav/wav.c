@@ -14,6 +14,9 @@ static const uint32_t kStreamedSize = 0x7fff0000;
 /* Far from overflow in a transform, and beyond what any unit of amplitude needs. */
 static const double kLargestSample = 1e30;
 
+/* How much of the power may be lost in the mix, beyond what independent channels lose. */
+static const double kCancelled = 4;
+
 static bool fail(Recording* recording, const char* format, ...) {
   va_list arguments;
   va_start(arguments, format);
@@ -85,6 +88,7 @@ static bool read_samples(FILE* file, uint32_t size, Recording* recording) {
   const size_t sample_size = (recording->bits + 7) / 8;
   const size_t block_size = sample_size * recording->channels;
   size_t capacity = 0;
+  double mixed_power = 0, power = 0;
   for (; size >= block_size; size -= block_size) {
     if (fread(block, 1, block_size, file) < block_size) break;
     double sum = 0;
@@ -93,7 +97,9 @@ static bool read_samples(FILE* file, uint32_t size, Recording* recording) {
       if (!(fabs(value) <= kLargestSample))
         return fail(recording, "sample %zu is infinite, huge or not a number", recording->count);
       sum += value;
+      power += value * value / recording->channels;
     }
+    mixed_power += sum * sum / recording->channels / recording->channels;
     if (recording->count == capacity) {
       capacity = capacity == 0 ? 1 << 16 : 2 * capacity;
       float* larger = capacity <= SIZE_MAX / 2 / sizeof(float)
@@ -106,7 +112,14 @@ static bool read_samples(FILE* file, uint32_t size, Recording* recording) {
   }
   if (ferror(file)) return fail(recording, "%s", strerror(errno));
   if (recording->count == 0) return fail(recording, "it holds no samples");
-  recording->is_cut_short = size >= block_size && size < kStreamedSize;
+  /* Independent channels, too, lose as much as there are channels. */
+  const bool is_cancelled = mixed_power * recording->channels * kCancelled < power;
+  snprintf(recording->remark, sizeof recording->remark, "%s%s%s",
+           size >= block_size && size < kStreamedSize ? "it ends early: what is there is used" : "",
+           size >= block_size && size < kStreamedSize && is_cancelled ? "; " : "",
+           !is_cancelled      ? ""
+           : mixed_power == 0 ? "its channels cancel one another: nothing is left in their mean"
+                              : "its channels cancel one another: their mean has little of them");
   return true;
 }
 

@@ -12,8 +12,8 @@ typedef struct Recording {
   int channels;
   int bits; /* of a sample in the file */
   bool is_float;
-  bool is_cut_short; /* the file ends before the samples that its header promises */
   char problem[100]; /* after a failure: what is wrong with the file */
+  char remark[120];  /* else: what a user should know of the samples, or empty */
 } Recording;
 
 /* Returns whether the file could be read. */

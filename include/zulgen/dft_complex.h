@@ -3,7 +3,9 @@
  *   zulgDFTFwd_CToC_N_32fc   dst[k] = s * sum over n of src[n] * exp(-2 pi i n k / N)
  *   zulgDFTInv_CToC_N_32fc   dst[n] = s * sum over k of src[k] * exp(+2 pi i n k / N)
  *
- * with n and k from 0 to N - 1 and s the factor that the flag selects (zulgen/types.h).
+ * with n and k from 0 to N - 1 and s the factor that the flag selects (zulgen/types.h). Forward and
+ * inverse with one of the flags ZULG_SCALE_FWD_BY_N, ZULG_SCALE_INV_BY_N and ZULG_SCALE_BY_SQRT_N
+ * give back the samples; with ZULG_SCALE_NONE, N times the samples.
  *
  *   src    N samples, in natural order
  *   dst    N samples, in natural order; may be src. Arrays that overlap otherwise are not served.

@@ -27,8 +27,8 @@
  * k from 1 to (N - 1) / 2.
  *
  *   src    N samples
- *   dst    the spectrum; may be src, if the array has room for it. Arrays that overlap otherwise are
- *          not served.
+ *   dst    the spectrum; may be src. In CCS the array then needs room for N + 1 elements of an odd
+ *          N, for N + 2 of an even one. Arrays that overlap otherwise are not served.
  *   flag   the scale flag
  *
  * Returns ZULG_OK; ZULG_ERR_NULL_PTR if a pointer is null; ZULG_ERR_FLAG if the flag is none of the

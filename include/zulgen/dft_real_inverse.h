@@ -7,7 +7,8 @@
  *
  * with k from 0 to N - 1, X[N - k] the conjugate of X[k], and s the factor that the flag selects
  * (zulgen/types.h). A forward kernel and this one, both with one of the flags ZULG_SCALE_FWD_BY_N,
- * ZULG_SCALE_INV_BY_N and ZULG_SCALE_BY_SQRT_N, give back the samples.
+ * ZULG_SCALE_INV_BY_N and ZULG_SCALE_BY_SQRT_N, give back the samples; with ZULG_SCALE_NONE, N times
+ * the samples.
  *
  *   src    the spectrum; elements 1 and N+1 of CCS, the zeros, are not read
  *   dst    N samples; may be src. Elements of src behind them keep their values. Arrays that overlap

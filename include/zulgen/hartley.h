@@ -4,8 +4,9 @@
  *   zulgHartley_N_32f    dst[k] = s * sum over n of src[n] * (cos(2 pi n k / N) + sin(2 pi n k / N))
  *
  * with n and k from 0 to N - 1 and s the factor that the flag selects (zulgen/types.h):
- * ZULG_SCALE_FWD_BY_N and ZULG_SCALE_INV_BY_N are both 1/N. Twice the transform is N times the
- * samples.
+ * ZULG_SCALE_FWD_BY_N and ZULG_SCALE_INV_BY_N are both 1/N. The transform is its own inverse up to
+ * the factor: twice with ZULG_SCALE_BY_SQRT_N, or once with 1/N and once with ZULG_SCALE_NONE, gives
+ * back the samples; twice with ZULG_SCALE_NONE gives N times the samples.
  *
  *   src    N samples
  *   dst    N values; may be src. Arrays that overlap otherwise are not served.

@@ -2,12 +2,12 @@
 #ifndef ZULGEN_TYPES_H
 #define ZULGEN_TYPES_H
 
-/* What a function returns: ZULG_OK, or the reason why it did nothing. There is no other value. A
- * call that fails has written nothing. */
+/* What a function returns: ZULG_OK, or the reason why it did not do its work. There is no other
+ * value. A call that fails has written nothing, except for zulgDCT4Init: see zulgen/dct4.h. */
 typedef int zulgResult;
 
 #define ZULG_OK 0             /* the operation completed */
-#define ZULG_ERR_CONTEXT (-5) /* a plan isn't what the function expects */
+#define ZULG_ERR_CONTEXT (-5) /* a plan isn't what the function expects; seldom noticed */
 #define ZULG_ERR_SIZE (-6)    /* a length or order out of range, or one that has no plan */
 #define ZULG_ERR_NULL_PTR (-8) /* a required pointer is null */
 #define ZULG_ERR_FLAG (-16)   /* the scale flag is not one of the four below */
@@ -21,12 +21,18 @@ typedef int zulgResult;
  *   ZULG_SCALE_BY_SQRT_N   1/sqrt(N)     1/sqrt(N)     1/sqrt(N)
  *   ZULG_SCALE_NONE        1             1             1
  *
- * A forward and an inverse DFT with the same flag of the first three give back the input; with
- * ZULG_SCALE_NONE, N times the input. So does a self-inverse transform called twice with
- * ZULG_SCALE_BY_SQRT_N, or once with 1/N and once with 1. The factor is a constant of the sample type, the nearest to
- * the quotient or root, and is multiplied into every output last, also if it is 1.
+ * A forward and an inverse DFT, both with the same flag: one of the first three gives back the input,
+ * ZULG_SCALE_NONE gives N times the input. Hartley and Walsh-Hadamard transforms are their own
+ * inverses: what gives back the input is ZULG_SCALE_BY_SQRT_N twice, or 1/N once and
+ * ZULG_SCALE_NONE once. ZULG_SCALE_NONE twice gives N times the input, 1/N twice an N-th of it.
  *
- * Errors are found in this order: null pointers first, then the flag. */
+ * The factor is the value that 1.0 / N or 1.0 / sqrt(N) has in double precision, rounded to float in
+ * _32f and _32fc. Of the lengths 2 to 64, 1.0 / sqrt(N) in double is not the double nearest to the
+ * root at 18, by one unit in the last place. Every output is multiplied by the factor, also if that
+ * is 1. This is the last operation on it, except in forward real kernels: there a change of sign may
+ * follow, and in _32f the product may be one in double that is then rounded to float.
+ *
+ * Errors are found in this order: a length that is an argument, null pointers, the flag. */
 typedef int zulgScaleFlag;
 
 #define ZULG_SCALE_FWD_BY_N 1

@@ -1,4 +1,5 @@
-/* Which library this is. */
+/* Which library this is. The record is the same in every release and at every level of the library:
+ * it names the interface, 6.1, and tells neither the release nor when it was built. */
 #ifndef ZULGEN_VERSION_H
 #define ZULGEN_VERSION_H
 

@@ -6,7 +6,7 @@
  * with j and k from 0 to L - 1: the Hadamard matrix in natural order, neither sequency nor dyadic. It
  * is its own inverse up to the factor s, which the flag selects (zulgen/types.h): 1/L under
  * ZULG_SCALE_FWD_BY_N and ZULG_SCALE_INV_BY_N alike, 1/sqrt(L) under ZULG_SCALE_BY_SQRT_N, 1 under
- * ZULG_SCALE_NONE.
+ * ZULG_SCALE_NONE. Twice with ZULG_SCALE_NONE gives L times the samples.
  *
  *   src    L samples
  *   dst    L samples; may be src. Arrays that overlap otherwise are not served.
