@@ -153,7 +153,7 @@ static void draw_tones(const Plot* plot, const Tone* tones, int count, Canvas* c
 }
 
 static void draw_scale(Canvas* canvas) {
-  canvas_text(canvas, SCALE_LEFT, PLOT_TOP / 2, 0, kText, "0 dB: loudest");
+  canvas_text(canvas, WIDTH - TEXT_GAP, PLOT_TOP / 2, 1, kText, "0 dB: loudest");
   for (int y = 0; y < PLOT_HEIGHT; ++y) {
     const Colour colour = colour_of((double)y / (PLOT_HEIGHT - 1));
     canvas_fill(canvas, SCALE_LEFT, PLOT_BOTTOM - 1 - y, SCALE_WIDTH, 1, colour);

@@ -1,14 +1,14 @@
-/* Writes one second of A4 (a sine of 440 Hz) as a WAV file of 8000 samples per second.
- * Usage: make_wav ENCODING BITS CHANNELS [extensible] > file
+/* Writes one second of A4 (a sine of 440 Hz, of half the full scale) as a WAV file.
+ * Usage: make_wav ENCODING BITS CHANNELS [KIND [RATE [AMPLITUDE]]] > file
  *
- * All channels but the first are silent. A chunk of odd length stands before the header. */
+ * All channels but the first are silent; KIND is plain, extensible (the header), opposite (the second
+ * channel is the first with its sign turned) or noise (instead of the sine). A chunk of odd length
+ * stands before the header. */
 #include <math.h>
 #include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
-
-enum { RATE = 8000 };
 
 static void put(uint64_t value, int size) {
   for (int i = 0; i < size; ++i) putchar(value >> 8 * i & 0xff);
@@ -30,12 +30,15 @@ static void put_sample(double value, int encoding, int bits) {
 int main(int argc, char** argv) {
   if (argc < 4) return 2;
   const int encoding = atoi(argv[1]), bits = atoi(argv[2]), channels = atoi(argv[3]);
-  const int is_extensible = argc > 4;
+  const char* kind = argc > 4 ? argv[4] : "plain";
+  const int is_extensible = strcmp(kind, "extensible") == 0;
+  const int rate = argc > 5 ? atoi(argv[5]) : 8000;
+  const double amplitude = argc > 6 ? atof(argv[6]) : 0.5;
   const int block = channels * bits / 8;
   const int format_size = is_extensible ? 40 : 16;
 
   fputs("RIFF", stdout);
-  put(4 + 12 + 8 + format_size + 8 + RATE * block, 4);
+  put(4 + 12 + 8 + format_size + 8 + rate * block, 4);
   fputs("WAVEodd ", stdout);
   put(3, 4);
   put(0x616161, 4);
@@ -43,8 +46,8 @@ int main(int argc, char** argv) {
   put(format_size, 4);
   put(is_extensible ? 0xfffe : encoding, 2);
   put(channels, 2);
-  put(RATE, 4);
-  put(RATE * block, 4);
+  put(rate, 4);
+  put(rate * block, 4);
   put(block, 2);
   put(bits, 2);
   if (is_extensible) {
@@ -56,10 +59,15 @@ int main(int argc, char** argv) {
     put(0x719b3800, 4);
   }
   fputs("data", stdout);
-  put(RATE * block, 4);
-  for (int n = 0; n < RATE; ++n) {
-    put_sample(0.5 * sin(2 * 3.14159265358979323846 * 440 * n / RATE), encoding, bits);
-    for (int c = 1; c < channels; ++c) put_sample(0, encoding, bits);
+  put(rate * block, 4);
+  uint32_t random = 1;
+  for (int n = 0; n < rate; ++n) {
+    double value = sin(2 * 3.14159265358979323846 * 440 * n / rate);
+    random = random * 1664525 + 1013904223;
+    if (strcmp(kind, "noise") == 0) value = random / 2147483648.0 - 1;
+    put_sample(amplitude * value, encoding, bits);
+    for (int c = 1; c < channels; ++c)
+      put_sample(c == 1 && strcmp(kind, "opposite") == 0 ? -amplitude * value : 0, encoding, bits);
   }
   return 0;
 }
