@@ -1,9 +1,9 @@
 /* Writes one second of A4 (a sine of 440 Hz, of half the full scale) as a WAV file.
  * Usage: make_wav ENCODING BITS CHANNELS [KIND [RATE [AMPLITUDE]]] > file
  *
- * All channels but the first are silent; KIND is plain, extensible (the header), opposite (the second
- * channel is the first with its sign turned) or noise (instead of the sine). A chunk of odd length
- * stands before the header. */
+ * All channels but the first are silent. KIND is plain, extensible (the header), opposite (the
+ * second channel is the first with its sign turned) or noise (instead of the sine). A chunk of odd
+ * length stands before the header. */
 #include <math.h>
 #include <stdint.h>
 #include <stdio.h>
