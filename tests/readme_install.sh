@@ -20,3 +20,4 @@ blocks text '# zulgen' >"$work/wanted"
 blocks sh 'Install and link' | grep -v '^cmake --preset' | sed "s,build/library,$build," >"$work/install"
 [ "$(grep -c '^gcc' "$work/install")" -eq 2 ]
 (cd "$work" && HOME=$work sh -eu install) | grep -v -e '^-- ' | diff "$work/wanted" -
+[ -z "$(find "$work/zulgen" ! -type d)" ] || { echo "something stays behind" >&2; exit 1; }
