@@ -4,6 +4,8 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+install(FILES LICENSE CHANGELOG.md SECURITY.md DESTINATION share/doc/zulgen COMPONENT doc)
+
 list(LENGTH ZULGEN_TARGETS count)
 if(count GREATER 1)
   set(multiarch ON)

@@ -23,7 +23,7 @@ constexpr int wrapping_product(Factors... factors) {
 // `size` rounded up to a multiple of 32. Wraps.
 constexpr int zulgAlignSize32Bytes(int size) { return wrapping_sum(size, 31) & ~31; }
 
-// The block, which may have any alignment.
+// The block. Off 32 bytes it has to be 32 bytes longer than the sizing pass says: see first_cursor.
 struct __attribute__((packed)) Arena {
   char* cursor;
 };
