@@ -25,6 +25,12 @@ static bool fail(Recording* recording, const char* format, ...) {
   return false;
 }
 
+static void remark(Recording* recording, const char* text) {
+  const size_t length = strlen(recording->remark);
+  snprintf(recording->remark + length, sizeof recording->remark - length, "%s%s",
+           length > 0 ? "; " : "", text);
+}
+
 static unsigned read_u16(const uint8_t* p) { return p[0] | p[1] << 8; }
 static uint32_t read_u32(const uint8_t* p) { return read_u16(p) | (uint32_t)read_u16(p + 2) << 16; }
 
@@ -112,14 +118,13 @@ static bool read_samples(FILE* file, uint32_t size, Recording* recording) {
   }
   if (ferror(file)) return fail(recording, "%s", strerror(errno));
   if (recording->count == 0) return fail(recording, "it holds no samples");
+  if (size >= block_size && size < kStreamedSize)
+    remark(recording, "it ends early: what is there is used");
   /* Independent channels, too, lose as much as there are channels. */
-  const bool is_cancelled = mixed_power * recording->channels * kCancelled < power;
-  snprintf(recording->remark, sizeof recording->remark, "%s%s%s",
-           size >= block_size && size < kStreamedSize ? "it ends early: what is there is used" : "",
-           size >= block_size && size < kStreamedSize && is_cancelled ? "; " : "",
-           !is_cancelled      ? ""
-           : mixed_power == 0 ? "its channels cancel one another: nothing is left in their mean"
-                              : "its channels cancel one another: their mean has little of them");
+  if (mixed_power * recording->channels * kCancelled < power)
+    remark(recording, mixed_power == 0
+                          ? "its channels cancel one another: nothing is left in their mean"
+                          : "its channels cancel one another: little of them is in their mean");
   return true;
 }
 
