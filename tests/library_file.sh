@@ -20,6 +20,9 @@ readelf -dW "$library" >"$work/dynamic"
 expect soname "$(sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p' "$work/dynamic")" "${library##*/}"
 expect needs "$(sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' "$work/dynamic" | xargs)" "$needed"
 expect "text relocations" "$(grep -c TEXTREL "$work/dynamic" || true)" 0
+# Any C library of this century serves.
+newest=$( (echo GLIBC_2.2.5; readelf -VW "$library" | grep -o 'GLIBC_[0-9.]*') | sort -V | tail -1)
+expect "needs of libc" "$newest" GLIBC_2.2.5
 readelf -lW "$library" >"$work/segments"
 expect stack "$(awk '$1 == "GNU_STACK" {print $7}' "$work/segments")" RW
 expect "writable code" "$(grep -c ' RWE ' "$work/segments" || true)" 0
