@@ -59,9 +59,9 @@ struct Functions;
         ZULGEN_FAMILY(zulgDFTInv_PermToR, type)};                                              \
     static constexpr auto kWalshHadamard = zulgWHT_##type;                                     \
     static constexpr auto kWorkSize = zulgWHTGetBufferSize_##type;                             \
-  }
-ZULGEN_FUNCTIONS(float, 32f);
-ZULGEN_FUNCTIONS(double, 64f);
+  };
+ZULGEN_FUNCTIONS(float, 32f)
+ZULGEN_FUNCTIONS(double, 64f)
 #undef ZULGEN_FUNCTIONS
 #undef ZULGEN_FAMILY
 
