@@ -8,7 +8,6 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "gen/moves.h"
 #include "gen/schedule.h"
 
 namespace gen {
@@ -34,11 +33,7 @@ bool is_doubling(const Graph& graph, const Node& node) {
   return node.op == Op::kMul && node.lane_count == 1 && graph.factor(node, 0) == Number(2);
 }
 
-const char* type_name(const Node& node) {
-  const bool single = node.precision == Precision::kSingle;
-  if (node.lane_count == 1) return single ? "float" : "double";
-  return single ? "F4" : "D2";
-}
+std::string type_of(const Node& node) { return type_name(node.precision, node.lane_count); }
 
 std::string list(const std::vector<std::string>& items) {
   std::string result;
@@ -103,10 +98,7 @@ class BodyWriter {
     const std::vector<bool> live = graph.live_nodes();
     for (NodeId id = 0; id < graph.size(); ++id) {
       if (!live[id] || !is_load(graph, id) || graph[id].op == Op::kZero) continue;
-      // The elements of a vector count as one load, so leave out the inputs it is made of.
-      if (graph[id].op == Op::kInput && graph[id].lane_count == 1 && is_part_of_vector(id, live)) {
-        continue;
-      }
+      if (graph[id].op == Op::kInput && !is_loaded_alone(id, live)) continue;
       for (int element : elements(id)) ++loads_left_[element];
     }
   }
@@ -131,24 +123,25 @@ class BodyWriter {
   }
 
  private:
-  bool is_part_of_vector(NodeId input, const std::vector<bool>& live) const {
+  // The elements of a vector count as one load, and the inputs it is made of as none.
+  bool is_loaded_alone(NodeId input, const std::vector<bool>& live) const {
+    bool is_part = false;
     for (NodeId id = 0; id < graph_.size(); ++id) {
-      if (!live[id] || graph_[id].op != Op::kLanes) continue;
+      if (!live[id]) continue;
       const std::vector<NodeId> operands = graph_.operands(id);
-      if (std::find(operands.begin(), operands.end(), input) != operands.end()) return true;
+      if (std::find(operands.begin(), operands.end(), input) == operands.end()) continue;
+      if (!is_load(graph_, id)) return true;
+      is_part = true;
     }
-    return false;
+    return !is_part;
   }
 
   // The elements of the source that a load brings in.
   std::vector<int> elements(NodeId id) const {
-    if (graph_[id].op == Op::kInput || graph_[id].op == Op::kFetch) return {graph_[id].element};
-    const MoveForm form = *single_move(graph_, id);
-    const int count = graph_[id].lane_count / (form.move == Move::kLoad ? 1 : 2);
+    if (graph_[id].op != Op::kLanes) return {graph_[id].element};
     std::vector<int> result;
-    for (int i = 0; i < count; ++i) result.push_back(form.element + i);
-    if (form.move == Move::kLoadHalves) {
-      for (int i = 0; i < count; ++i) result.push_back(form.high_element + i);
+    for (const NodeId input : graph_.operands(id)) {
+      if (graph_[input].op == Op::kInput) result.push_back(graph_[input].element);
     }
     return result;
   }
@@ -158,19 +151,19 @@ class BodyWriter {
     return node.op == Op::kFetch ? style_.accessors.at(node.array) : "x";
   }
 
-  std::string load_suffix(NodeId id) const {
-    if (graph_[id].op != Op::kLanes) return "";
-    const MoveForm form = *single_move(graph_, id);
-    switch (form.move) {
-      case Move::kLoadLow:
-        return "_low";
-      case Move::kLoadTwice:
-        return "_twice";
-      case Move::kLoadHalves:
-        return "_" + std::to_string(form.high_element);
-      default:
-        return "";
+  // A load's name tells how it is made.
+  std::string load_name(NodeId id, int element) {
+    std::string name = array(graph_[id]) + std::to_string(element);
+    if (graph_[id].op == Op::kLanes) {
+      const Move load = move(id);
+      name += load.elements.size() == 2 ? "_" + std::to_string(load.elements[1])
+                                        : load.function.substr(std::string("load").size());
     }
+    if (!used_names_.insert(name).second) {
+      name += "_" + type_of(graph_[id]);
+      used_names_.insert(name);
+    }
+    return name;
   }
 
   void define(NodeId id) {
@@ -179,13 +172,13 @@ class BodyWriter {
     const std::string value = expression(id);
     if (is_load(graph_, id) && node.op != Op::kZero) {
       const std::vector<int> loaded = elements(id);
-      names_[id] = array(node) + std::to_string(loaded[0]) + load_suffix(id);
+      names_[id] = load_name(id, loaded[0]);
       for (int element : loaded) --loads_left_[element];
     } else {
       const std::string prefix = node.op == Op::kZero ? "zero" : graph_.stages()[node.stage].name;
       names_[id] = prefix + std::to_string(name_counts_[prefix]++);
     }
-    text_ << "  const " << type_name(node) << " " << names_[id] << " = " << value << ";\n";
+    text_ << "  const " << type_of(node) << " " << names_[id] << " = " << value << ";\n";
   }
 
   std::string expression(NodeId id) {
@@ -199,10 +192,10 @@ class BodyWriter {
       case Op::kZero: {
         const std::string zero = node.precision == Precision::kSingle ? "0.0f" : "0.0";
         return node.lane_count == 1 ? zero
-                                    : std::string("all") + type_name(node) + "(" + zero + ")";
+                                    : "all" + type_of(node) + "(" + zero + ")";
       }
       case Op::kLanes:
-        return move(id);
+        return call(move(id), node);
       case Op::kFlipSigns: {
         if (node.lane_count == 1) return "-" + name(node.a);
         std::vector<std::string> flips;
@@ -237,9 +230,9 @@ class BodyWriter {
     for (const Number& number : graph_.factors(node)) lanes.push_back(constant(node, number));
     if (node.lane_count == 1) return lanes[0];
     if (std::all_of(lanes.begin(), lanes.end(), [&](const auto& l) { return l == lanes[0]; })) {
-      return std::string("all") + type_name(node) + "(" + lanes[0] + ")";
+      return "all" + type_of(node) + "(" + lanes[0] + ")";
     }
-    return std::string("lanes") + type_name(node) + "(" + list(lanes) + ")";
+    return "lanes" + type_of(node) + "(" + list(lanes) + ")";
   }
 
   static std::string constant(const Node& node, const Number& number) {
@@ -250,35 +243,21 @@ class BodyWriter {
     return (number.is_negative() ? "-" : "") + identifier(number);
   }
 
-  std::string move(NodeId id) const {
-    const auto form = single_move(graph_, id);
-    if (!form) throw std::logic_error("a lane move that takes several instructions");
-    const std::string memory = style_.memory_policy ? "Memory::" : "";
-    const std::string address = "x + " + std::to_string(form->element);
-    const auto call = [&](const std::string& function) {
-      return function + "(" + names_[form->a] + ", " + names_[form->b] + ")";
-    };
-    switch (form->move) {
-      case Move::kLoad:
-        return memory + "load(" + address + ")";
-      case Move::kLoadLow:
-        return "load_low(" + address + ")";
-      case Move::kLoadTwice:
-        return "load_twice(" + address + ")";
-      case Move::kLoadHalves:
-        return "load_halves(" + address + ", x + " + std::to_string(form->high_element) + ")";
-      case Move::kUnpackLow:
-        return call("unpack_low");
-      case Move::kUnpackHigh:
-        return call("unpack_high");
-      case Move::kShuffle:
-        break;
+  Move move(NodeId id) const {
+    const auto move = style_.moves->single_move(graph_, id);
+    if (!move) throw std::logic_error("a lane move that takes several instructions");
+    return *move;
+  }
+
+  std::string call(const Move& move, const Node& node) const {
+    std::vector<std::string> arguments;
+    for (const NodeId value : move.values) arguments.push_back(names_[value]);
+    for (const int element : move.elements) arguments.push_back("x + " + std::to_string(element));
+    std::string function = move.function;
+    if (move.is_whole_load) {
+      function = style_.memory_policy ? "Memory::load" : "load<" + type_of(node) + ">";
     }
-    std::vector<std::string> indices;
-    for (int lane = 0; lane < graph_[id].lane_count; ++lane) {
-      indices.push_back(std::to_string(form->indices[lane]));
-    }
-    return call("shuffle<" + list(indices) + ">");
+    return function + "(" + list(arguments) + ")";
   }
 
   void write_stores() {
@@ -312,6 +291,7 @@ class BodyWriter {
   const BodyStyle& style_;
   std::vector<std::string> names_;
   std::map<std::string, int> name_counts_;
+  std::set<std::string> used_names_;  // of loads
   std::map<NodeId, std::vector<Store>> stores_;
   std::map<int, int> loads_left_;  // by element of the source
   std::vector<Store> pending_;
@@ -319,6 +299,12 @@ class BodyWriter {
 };
 
 }  // namespace
+
+std::string type_name(Precision precision, int lane_count) {
+  const bool single = precision == Precision::kSingle;
+  if (lane_count == 1) return single ? "float" : "double";
+  return (single ? "F" : "D") + std::to_string(lane_count);
+}
 
 std::string emit_constants(const Graph& graph) {
   std::map<std::string, std::string> definitions;

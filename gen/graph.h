@@ -1,4 +1,4 @@
-// The data-flow graph (DAG) of one kernel: typed, hash-consed nodes on vectors of 1 to 4 lanes.
+// The data-flow graph (DAG) of one kernel: typed, hash-consed nodes on vectors of 1 to 8 lanes.
 //
 // A node is a value that the kernel computes. Nodes are only ever appended, and their operands
 // stand before them, so ascending order is a valid order of evaluation. Two requests for the same
@@ -18,7 +18,7 @@
 
 namespace gen {
 
-inline constexpr int kMaxLanes = 4;
+inline constexpr int kMaxLanes = 8;
 
 enum class Precision : std::uint8_t { kSingle, kDouble };
 

@@ -77,7 +77,7 @@ Graph lowered(const Graph& graph, int source_elements, bool loads_halves) {
 Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
-WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
+WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
   if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
   const Graph graph = kernel.graph();
   const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
@@ -93,7 +93,7 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
       vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
   std::ostringstream text;
-  text << heading(kernel, graph, order);
+  text << heading(kernel, graph, form.order);
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
   text << "inline zulgResult " << body_name << arguments << " {\n";
@@ -102,8 +102,9 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
   text << "  const auto s = " << scale << ";\n\n";
   BodyStyle style;
+  style.moves = form.moves;
   style.memory_policy = vectors;
-  text << emit_body(code, schedule(code, order), style);
+  text << emit_body(code, schedule(code, form.order), style);
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
   static constexpr const char* kFunctions[] = {"SCALAR", "SHORT_VECTOR", "VECTOR"};

@@ -25,7 +25,7 @@ constexpr const char* kUsage =
                                       kernel, for its row: takes some seconds
        zulgen-generate --target DIR --print NAME
                                       a kernel's source, or a body's
-       zulgen-generate --variants NAME --order ORDER...
+       zulgen-generate --target DIR --variants NAME --order ORDER...
                                       a source file of the kernel in many orders, for measuring;
                                       they are called NAME_0, NAME_1, ...
        zulgen-generate --help         this text
@@ -57,10 +57,10 @@ generate::Target read_target(const Options& options) {
 std::string source_of(const Options& options) {
   const generate::Target target = read_target(options);
   for (const gen::Body& body : generate::all_bodies()) {
-    if (body.name == options.print) return emit_body(body, target.order_of(body));
+    if (body.name == options.print) return emit_body(body, target.form_of(body));
   }
   const gen::Kernel kernel = find_kernel(options.print);
-  return emit_kernel(kernel, target.order_of(kernel)).text;
+  return emit_kernel(kernel, target.form_of(kernel)).text;
 }
 
 void print_counts() {
@@ -133,7 +133,8 @@ void run(const std::vector<std::string>& arguments) {
   if (done) return;
   if (!options.variants.empty()) {
     if (options.orders.empty()) throw UsageError("--variants wants an --order");
-    std::cout << generate::source_of_variants(find_kernel(options.variants), options.orders);
+    std::cout << generate::source_of_variants(read_target(options), find_kernel(options.variants),
+                                              options.orders);
   } else if (!options.print.empty()) {
     std::cout << source_of(options);
   } else if (!options.out.empty()) {

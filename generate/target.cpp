@@ -33,43 +33,50 @@ std::set<std::string> wanted_rows() {
   return names;
 }
 
-// Lines of a name and an order of two words; those that begin with # are comments.
-std::map<std::string, gen::Order> read_orders(const std::string& path) {
+// A line "moves" and the name of what the target has for moving lanes, then lines of a name and an
+// order of two words; those that begin with # are comments.
+void read_forms(const std::string& path, Target& target) {
   std::istringstream lines(read_file(path));
   std::set<std::string> missing = wanted_rows();
-  std::map<std::string, gen::Order> orders;
   std::string line;
   for (int number = 1; std::getline(lines, line); ++number) {
     if (line.empty() || line[0] == '#') continue;
     const auto fail = [&](const std::string& what) {
       throw std::runtime_error(path + ":" + std::to_string(number) + ": " + what);
     };
+    if (line.starts_with("moves ")) {
+      target.moves = &gen::moves_called(line.substr(6));
+      continue;
+    }
+    if (target.moves == nullptr) fail("no moves before the first row");
     const std::size_t order = line.rfind(' ', line.rfind(' ') - 1);
     const std::size_t name_end = line.find_last_not_of(' ', order);
     if (name_end == std::string::npos) fail("not a name and an order");
     const std::string name = line.substr(0, name_end + 1);
     if (missing.erase(name) == 0) fail("no kernel, or a second row of it: " + name);
     try {
-      orders[name] = gen::parse_order(line.substr(order + 1));
+      target.forms[name] = {gen::parse_order(line.substr(order + 1)), target.moves};
     } catch (const std::invalid_argument& error) {
       fail(error.what());
     }
   }
   if (!missing.empty()) throw std::runtime_error(path + ": no row of " + *missing.begin());
-  return orders;
 }
 
 }  // namespace
 
-gen::Order Target::order_of(const gen::Kernel& kernel) const { return orders.at(row_name(kernel)); }
+gen::Form Target::form_of(const gen::Kernel& kernel) const { return forms.at(row_name(kernel)); }
 
 Target read_target(const std::string& folder, const std::string& architecture_folder) {
   const auto find = [&](const std::string& file) {
     const std::string own = folder + "/" + file;
     return std::filesystem::exists(own) ? own : architecture_folder + "/" + file;
   };
-  return {std::filesystem::path(folder).filename(), read_file(find("entry.s.in")),
-          read_orders(find("kernels.txt"))};
+  Target target;
+  target.name = std::filesystem::path(folder).filename();
+  target.entry = read_file(find("entry.s.in"));
+  read_forms(find("kernels.txt"), target);
+  return target;
 }
 
 }  // namespace generate

@@ -15,10 +15,11 @@ struct Target {
   std::string entry;
   // kernels.txt: how each kernel and each body is written down, by name. A real kernel's row, that
   // of its CCS layout, stands for all layouts.
-  std::map<std::string, gen::Order> orders;
+  std::map<std::string, gen::Form> forms;
+  const gen::MoveSet* moves = nullptr;  // of all forms
 
-  gen::Order order_of(const gen::Kernel& kernel) const;
-  gen::Order order_of(const gen::Body& body) const { return orders.at(body.name); }
+  gen::Form form_of(const gen::Kernel& kernel) const;
+  gen::Form form_of(const gen::Body& body) const { return forms.at(body.name); }
 };
 
 // A level of an architecture has a folder of its own, and what isn't there is the architecture's.

@@ -32,7 +32,7 @@ expect "^FirstStage<D2, 16> 68 32$" --counts
 expect "ZULGEN_VECTOR_KERNEL(${name#zulg}," --target "$target" --print $name
 expect "struct BaseCase<float, 8>" --target "$target" --print "BaseCase<float, 8>"
 expect "digraph $name" --dot $name
-expect "KERNEL(${name#zulg}_1," --variants $name --order "live 0" --order "bisect 2"
+expect "KERNEL(${name#zulg}_1," --target "$target" --variants $name --order "live 0" --order "bisect 2"
 expect "^01*$" --arrange zulgDFTInv_CToC_9_32fc
 expect "^usage" --help
 

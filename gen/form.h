@@ -1,0 +1,14 @@
+// How a kernel or a body is written down for a target: what measured fastest there.
+#pragma once
+
+#include "gen/moves.h"
+#include "gen/schedule.h"
+
+namespace gen {
+
+struct Form {
+  Order order;
+  const MoveSet* moves = &sse_moves();
+};
+
+}  // namespace gen
