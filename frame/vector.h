@@ -93,4 +93,41 @@ D2 flip_signs(D2 x) {
   return _mm_xor_pd(x, _mm_setr_pd(a ? -0.0 : 0.0, b ? -0.0 : 0.0));
 }
 
+// What packed kernels of scalars need besides. Two floats are the low half of a vector whose high
+// half holds other floats that are used somewhere, or zeros: nothing that would slow the processor
+// down.
+using F2 = F4;
+inline F2 allF2(float x) { return allF4(x); }
+inline F2 lanesF2(float a, float b) { return _mm_setr_ps(a, b, 0, 0); }
+
+// Vectors of a given type at any address.
+template <class V>
+V load(const void* p) {
+  V v;
+  __builtin_memcpy(&v, p, sizeof v);
+  return v;
+}
+template <class V>
+void store(void* p, V v) {
+  __builtin_memcpy(p, &v, sizeof v);
+}
+inline F2 load_lanes(const float* low, const float* high) { return lanesF2(*low, *high); }
+template <int lane>
+void store_lane(float* p, F4 v) {
+  *p = v[lane];
+}
+template <int lane>
+void store_lane(double* p, D2 v) {
+  *p = v[lane];
+}
+
+template <int lane>
+float lane(F4 v) {
+  return v[lane];
+}
+template <int lane>
+double lane(D2 v) {
+  return v[lane];
+}
+
 }  // namespace zulgen

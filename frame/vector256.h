@@ -16,17 +16,6 @@ inline F8 lanesF8(float a, float b, float c, float d, float e, float f, float g,
 inline D4 allD4(double x) { return _mm256_set1_pd(x); }
 inline D4 lanesD4(double a, double b, double c, double d) { return _mm256_setr_pd(a, b, c, d); }
 
-// Vectors of a given type at any address.
-template <class V>
-V load(const void* p) {
-  V v;
-  __builtin_memcpy(&v, p, sizeof v);
-  return v;
-}
-template <class V>
-void store(void* p, V v) {
-  __builtin_memcpy(p, &v, sizeof v);
-}
 // Half a vector from memory, into both halves.
 template <class V>
 V load_twice(const void* p) {

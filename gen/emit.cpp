@@ -43,43 +43,73 @@ std::string list(const std::vector<std::string>& items) {
 
 // One store: consecutive elements of the destination out of one node.
 struct Store {
-  const char* function;  // empty for a scalar
+  std::string function;  // empty for a scalar
   int element, count;
   NodeId node;
+  std::string part = {};  // the function that takes out of the node what is stored
 };
 
-// Whole vectors where all lanes go side by side to a place aligned as the array is, else halves.
-std::vector<Store> plan_stores(const Graph& graph) {
-  std::map<int, Lane> outputs;
-  for (const Output& out : graph.outputs()) outputs[out.element] = out.from;
-  const auto run = [&](int element, const Lane& first, int count) {
+class StorePlan {
+ public:
+  explicit StorePlan(const Graph& graph) : graph_(graph) {
+    for (const Output& out : graph.outputs()) outputs_[out.element] = out.from;
+  }
+
+  // Whole vectors where all lanes go side by side to a place aligned as the array is, else halves;
+  // or, `anywhere`, as many lanes at a time as can be.
+  std::vector<Store> stores(bool anywhere) const {
+    std::vector<Store> stores;
+    for (auto at = outputs_.begin(); at != outputs_.end();) {
+      stores.push_back(anywhere ? store_anywhere(at->first, at->second)
+                                : store_aligned(at->first, at->second));
+      std::advance(at, stores.back().count);
+    }
+    return stores;
+  }
+
+ private:
+  bool is_run(int element, const Lane& first, int count) const {
     for (int i = 0; i < count; ++i) {
-      const auto at = outputs.find(element + i);
-      if (at == outputs.end() || at->second != Lane{first.node, first.index + i}) return false;
+      const auto at = outputs_.find(element + i);
+      if (at == outputs_.end() || at->second != Lane{first.node, first.index + i}) return false;
     }
     return true;
-  };
-  std::vector<Store> stores;
-  for (auto at = outputs.begin(); at != outputs.end();) {
-    const auto [element, lane] = *at;
-    const int width = graph[lane.node].lane_count, half = std::max(1, width / 2);
-    Store store{"", element, 1, lane.node};
-    if (width > 1) {
-      if (lane.index == 0 && element % width == 0 && run(element, lane, width)) {
-        store.function = "store";
-        store.count = width;
-      } else if (lane.index % half == 0 && run(element, lane, half)) {
-        store.function = lane.index == 0 ? "store_low" : "store_high";
-        store.count = half;
-      } else {
-        throw std::logic_error("an output that no store can take");
-      }
-    }
-    stores.push_back(store);
-    std::advance(at, store.count);
   }
-  return stores;
-}
+
+  Store store_aligned(int element, const Lane& lane) const {
+    const int width = graph_[lane.node].lane_count, half = std::max(1, width / 2);
+    if (width == 1) return {"", element, 1, lane.node};
+    if (lane.index == 0 && element % width == 0 && is_run(element, lane, width)) {
+      return {"store", element, width, lane.node};
+    }
+    if (lane.index % half == 0 && is_run(element, lane, half)) {
+      return {lane.index == 0 ? "store_low" : "store_high", element, half, lane.node};
+    }
+    throw std::logic_error("an output that no store can take");
+  }
+
+  Store store_anywhere(int element, const Lane& lane) const {
+    const Node& node = graph_[lane.node];
+    if (node.lane_count == 1) return {"", element, 1, lane.node};
+    int count = node.lane_count;
+    while (lane.index % count != 0 || !is_run(element, lane, count)) count /= 2;
+    const int per_128_bits = node.precision == Precision::kSingle ? 4 : 2;
+    Store store{"store", element, count, lane.node};
+    int index = lane.index;
+    if (node.lane_count > per_128_bits && count < node.lane_count) {
+      store.part = index < per_128_bits ? "low_half" : "high_half";
+      index %= per_128_bits;
+    }
+    if (count < per_128_bits) {
+      store.function = count == 1 ? "store_lane<" + std::to_string(index) + ">"
+                                  : (index == 0 ? "store_low" : "store_high");
+    }
+    return store;
+  }
+
+  const Graph& graph_;
+  std::map<int, Lane> outputs_;
+};
 
 std::vector<Store> whole_stores(const Graph& graph) {
   std::vector<Store> stores;
@@ -91,7 +121,9 @@ class BodyWriter {
  public:
   BodyWriter(const Graph& graph, const BodyStyle& style)
       : graph_(graph), style_(style), names_(graph.size()) {
-    for (const Store& store : style.stores_by_accessor ? whole_stores(graph) : plan_stores(graph)) {
+    for (const Store& store : style.stores_by_accessor
+                                  ? whole_stores(graph)
+                                  : StorePlan(graph).stores(!style.memory_policy)) {
       stores_[store.node].push_back(store);
     }
     if (style.stores_by_accessor) return;
@@ -191,23 +223,23 @@ class BodyWriter {
         return array(node) + ".load(" + std::to_string(node.element) + ")";
       case Op::kZero: {
         const std::string zero = node.precision == Precision::kSingle ? "0.0f" : "0.0";
-        return node.lane_count == 1 ? zero
-                                    : "all" + type_of(node) + "(" + zero + ")";
+        if (node.lane_count == 1) return zero;
+        if (node.flips == 0) return "all" + type_of(node) + "(" + zero + ")";
+        const auto lanes = by_lane(node, [&](bool flip) { return flip ? "-" + zero : zero; });
+        return "lanes" + type_of(node) + "(" + list(lanes) + ")";
       }
       case Op::kLanes:
         return call(move(id), node);
-      case Op::kFlipSigns: {
-        if (node.lane_count == 1) return "-" + name(node.a);
-        std::vector<std::string> flips;
-        for (int lane = 0; lane < node.lane_count; ++lane) {
-          flips.push_back(node.flips >> lane & 1 ? "1" : "0");
-        }
-        return "flip_signs<" + list(flips) + ">(" + name(node.a) + ")";
-      }
+      case Op::kFlipSigns:
+        return node.lane_count == 1 ? "-" + name(node.a) : flipped(node, name(node.a));
       case Op::kFromZero:
         return (node.precision == Precision::kSingle ? "0.0f - " : "0.0 - ") + name(node.a);
       case Op::kAdd:
-        return name(node.a) + " + " + name(node.b);
+        if (node.flips == 0) return name(node.a) + " + " + name(node.b);
+        if (subtracts_even_lanes(node)) {
+          return "subtract_add(" + name(node.a) + ", " + name(node.b) + ")";
+        }
+        return name(node.a) + " + " + flipped(node, name(node.b));
       case Op::kSub:
         return name(node.a) + " - " + name(node.b);
       case Op::kMul:
@@ -216,14 +248,33 @@ class BodyWriter {
       case Op::kProduct:
         return name(node.a) + " * " + name(node.b);
       case Op::kScale:
-        return "s * " + name(node.a);
+        return (node.flips == 0 ? scale(node) : flipped(node, scale(node))) + " * " + name(node.a);
       case Op::kWiden:
-        return "static_cast<double>(" + name(node.a) + ")";
+        return (node.lane_count == 1 ? "static_cast<double>(" : "widened(") + name(node.a) + ")";
       case Op::kRound:
-        return "static_cast<float>(" + name(node.a) + ")";
+        return (node.lane_count == 1 ? "static_cast<float>(" : "rounded(") + name(node.a) + ")";
     }
     return "";
   }
+
+  std::string scale(const Node& node) const {
+    return style_.memory_policy || node.lane_count == 1 ? "s" : "s" + type_of(node);
+  }
+
+  template <class Text>
+  static std::vector<std::string> by_lane(const Node& node, Text text) {
+    std::vector<std::string> lanes;
+    for (int lane = 0; lane < node.lane_count; ++lane) {
+      lanes.push_back(text((node.flips >> lane & 1) != 0));
+    }
+    return lanes;
+  }
+
+  static std::string flipped(const Node& node, const std::string& value) {
+    const auto flips = by_lane(node, [](bool flip) { return std::string(flip ? "1" : "0"); });
+    return "flip_signs<" + list(flips) + ">(" + value + ")";
+  }
+
 
   std::string factor(const Node& node) const {
     std::vector<std::string> lanes;
@@ -276,12 +327,13 @@ class BodyWriter {
       const std::string address = "y + " + std::to_string(store.element);
       if (style_.stores_by_accessor) {
         text_ << "  y.store(" << store.element << ", " << names_[store.node] << ");\n";
-      } else if (store.function[0] == '\0') {
+      } else if (store.function.empty()) {
         text_ << "  y[" << store.element << "] = " << names_[store.node] << ";\n";
       } else {
-        const bool whole = store.function == std::string("store");
-        text_ << "  " << (whole && style_.memory_policy ? "Memory::" : "") << store.function << "("
-              << address << ", " << names_[store.node] << ");\n";
+        const bool by_policy = store.function == "store" && style_.memory_policy;
+        const std::string& name = names_[store.node];
+        text_ << "  " << (by_policy ? "Memory::" : "") << store.function << "(" << address << ", "
+              << (store.part.empty() ? name : store.part + "(" + name + ")") << ");\n";
       }
     }
     pending_ = std::move(still_pending);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "gen/moves.h"
+#include "gen/pack.h"
 #include "gen/schedule.h"
 
 namespace gen {
@@ -9,6 +10,8 @@ namespace gen {
 struct Form {
   Order order;
   const MoveSet* moves = &sse_moves();
+  // What goes side by side in wider vectors: for every run of the packing pass.
+  std::vector<Pairing> pairings = {};
 };
 
 }  // namespace gen

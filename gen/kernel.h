@@ -50,6 +50,10 @@ Kernel kernel_of(const Signature& signature);
 // The graph in the form that is written out: sign flips in constants, lane moves as instructions.
 Graph lowered(const Graph& graph, int source_elements, bool loads_halves = false);
 
+// That form, numbered from its outputs, packed as the pairings tell one after the other. What comes
+// out is proved to be equal. Throws std::invalid_argument.
+Graph packed(const Graph& lowered, const std::vector<Pairing>& pairings, const MoveSet& moves);
+
 // The kernel's functions as C++, and what they cost.
 struct WrittenKernel {
   std::string text;
