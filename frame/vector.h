@@ -112,22 +112,69 @@ void store(void* p, V v) {
   __builtin_memcpy(p, &v, sizeof v);
 }
 inline F2 load_lanes(const float* low, const float* high) { return lanesF2(*low, *high); }
-template <int lane>
+template <int i>
 void store_lane(float* p, F4 v) {
-  *p = v[lane];
+  *p = v[i];
 }
-template <int lane>
+template <int i>
 void store_lane(double* p, D2 v) {
-  *p = v[lane];
+  *p = v[i];
 }
 
-template <int lane>
+template <int i>
 float lane(F4 v) {
-  return v[lane];
+  return v[i];
 }
-template <int lane>
+template <int i>
 double lane(D2 v) {
-  return v[lane];
+  return v[i];
 }
+
+// Lane i of `x` and lane j of `y`, which may be scalars.
+inline D2 as_vector(D2 v) { return v; }
+inline D2 as_vector(double v) {
+  D2 result;
+  asm("" : "=x"(result) : "0"(v));
+  return result;
+}
+template <int i, int j, class X, class Y>
+D2 join_doubles(X x, Y y) {
+  if constexpr (i == 0 && j == 1) {
+    return join_halves(as_vector(x), as_vector(y));
+  } else {
+    return shuffle<i, j>(as_vector(x), as_vector(y));
+  }
+}
+template <int i, int j>
+F2 join_floats(F2 x, F2 y) {
+  if constexpr (i == 0 && j == 0) {
+    return unpack_low(x, y);
+  } else {
+    return shuffle<0, 2, 0, 2>(shuffle<i, i, j, j>(x, y), x);
+  }
+}
+template <int i, int j>
+F2 join_floats(float x, float y) {
+  return lanesF2(x, y);
+}
+template <int i, int j>
+F2 join_floats(F2 x, float y) {
+  return lanesF2(x[i], y);
+}
+template <int i, int j>
+F2 join_floats(float x, F2 y) {
+  return lanesF2(x, y[j]);
+}
+
+template <int a, int b>
+F2 flip_signs(F2 x) {
+  return flip_signs<a, b, 0, 0>(x);
+}
+// Subtracts in even lanes, adds in odd ones.
+inline F4 subtract_add(F4 x, F4 y) { return _mm_addsub_ps(x, y); }
+inline D2 subtract_add(D2 x, D2 y) { return _mm_addsub_pd(x, y); }
+
+inline D2 widened(F2 x) { return _mm_cvtps_pd(x); }
+inline F2 rounded(D2 x) { return _mm_cvtpd_ps(x); }
 
 }  // namespace zulgen

@@ -22,6 +22,15 @@ V load_twice(const void* p) {
   return V(_mm256_broadcastsi128_si256(_mm_loadu_si128(static_cast<const __m128i*>(p))));
 }
 
+// Two floats into both places of the low half, two into those of the high half: the merge may run on
+// any of three ports.
+inline F8 load_each_twice(const float* low, const float* high) {
+  double x, y;
+  __builtin_memcpy(&x, low, sizeof x);
+  __builtin_memcpy(&y, high, sizeof y);
+  return F8(_mm256_blend_pd(_mm256_set1_pd(x), _mm256_set1_pd(y), 0b1100));
+}
+
 // A vector of 128 bits as the low half of a wider one, whose high half nobody reads.
 inline F8 as_low_half(F4 v) { return _mm256_castps128_ps256(v); }
 inline D4 as_low_half(D2 v) { return _mm256_castpd128_pd256(v); }
@@ -123,7 +132,7 @@ D4 flip_signs(D4 x) {
 inline F8 subtract_add(F8 x, F8 y) { return _mm256_addsub_ps(x, y); }
 inline D4 subtract_add(D4 x, D4 y) { return _mm256_addsub_pd(x, y); }
 
-inline D4 widened(F4 x) { return _mm256_cvtps_pd(x); }
+inline D4 widened_four(F4 x) { return _mm256_cvtps_pd(x); }
 inline F4 rounded(D4 x) { return _mm256_cvtpd_ps(x); }
 
 }  // namespace zulgen

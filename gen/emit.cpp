@@ -188,8 +188,9 @@ class BodyWriter {
     std::string name = array(graph_[id]) + std::to_string(element);
     if (graph_[id].op == Op::kLanes) {
       const Move load = move(id);
+      const std::string way = load.function.substr(0, load.function.find('<'));
       name += load.elements.size() == 2 ? "_" + std::to_string(load.elements[1])
-                                        : load.function.substr(std::string("load").size());
+                                        : way.substr(std::string("load").size());
     }
     if (!used_names_.insert(name).second) {
       name += "_" + type_of(graph_[id]);
@@ -250,7 +251,7 @@ class BodyWriter {
       case Op::kScale:
         return (node.flips == 0 ? scale(node) : flipped(node, scale(node))) + " * " + name(node.a);
       case Op::kWiden:
-        return (node.lane_count == 1 ? "static_cast<double>(" : "widened(") + name(node.a) + ")";
+        return (node.lane_count == 1 ? "static_cast<double>(" : node.lane_count == 2 ? "widened(" : "widened_four(") + name(node.a) + ")";
       case Op::kRound:
         return (node.lane_count == 1 ? "static_cast<float>(" : "rounded(") + name(node.a) + ")";
     }

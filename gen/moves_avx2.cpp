@@ -35,6 +35,16 @@ std::optional<Move> wide_load(const Graph& graph, const Node& node) {
   const std::string type = node.precision == Precision::kSingle ? "<F8>" : "<D4>";
   const auto low = memory_run(graph, node, 0, half), high = memory_run(graph, node, half, half);
   if (low && low == high) return Move{"load_twice" + type, {}, {*low}, false, Port::kFree};
+  if (node.lane_count == 8) {
+    // Quarters, each twice.
+    std::vector<int> elements;
+    for (const int first : {0, 4}) {
+      const auto once = memory_run(graph, node, first, 2);
+      if (!once || memory_run(graph, node, first + 2, 2) != once) return std::nullopt;
+      elements.push_back(*once);
+    }
+    return Move{"load_each_twice", {}, elements, false, Port::kBlend};
+  }
   return std::nullopt;
 }
 

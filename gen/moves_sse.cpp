@@ -73,7 +73,8 @@ std::optional<Move> single_lane(const Graph& graph, const Lane& pick) {
 std::optional<Move> joined(const Node& node) {
   const auto [low, high] = std::pair(node.picks[0], node.picks[1]);
   if (is_open(low) || is_open(high)) return std::nullopt;
-  return Move{with_indices("join", {low.index, high.index}), {low.node, high.node}, {}};
+  const bool single = node.precision == Precision::kSingle;
+  return Move{with_indices(single ? "join_floats" : "join_doubles", {low.index, high.index}), {low.node, high.node}, {}};
 }
 
 // Two lanes of single precision, which are half of a vector.

@@ -21,6 +21,10 @@ struct Pair {
 };
 using Pairing = std::vector<Pair>;
 
+std::string to_string(Pairing pairing);
+// Throws std::invalid_argument.
+Pairing parse_pairing(std::string_view text);
+
 // What packing asks of a node.
 struct PackNode {
   // Nodes pair if their kinds are equal; empty if the node pairs with none.

@@ -105,17 +105,16 @@ void write_library(const Target& target, const std::string& directory, const Sha
 }
 
 std::string source_of_variants(const Target& target, gen::Kernel kernel,
-                               const std::vector<gen::Order>& orders) {
+                               const std::vector<std::string>& forms) {
   std::string functions;
   const std::string name = kernel.name;
-  gen::Form form = target.form_of(kernel);
+  const gen::Kernel row = kernel;
   kernel.graph = [graph = kernel.graph()] { return graph; };
-  for (std::size_t i = 0; i < orders.size(); ++i) {
+  for (std::size_t i = 0; i < forms.size(); ++i) {
     kernel.name = name + "_" + std::to_string(i);
-    form.order = orders[i];
-    functions += "\n" + emit_kernel(kernel, form).text;
+    functions += "\n" + emit_kernel(kernel, target.parse_form(row, forms[i])).text;
   }
-  return source_file(name + " in " + std::to_string(orders.size()) + " orders.", *target.moves,
+  return source_file(name + " in " + std::to_string(forms.size()) + " forms.", *target.moves,
                      functions);
 }
 
