@@ -23,8 +23,9 @@ for name in "$@"; do
   now=$(sed -n "s/^$name  *//p" "$table")
   { echo "$now"; echo "$ORDERS" | grep -vx "$now"; } >"$work/orders"
   set --
-  while read -r order; do set -- "$@" --order "$order"; done <"$work/orders"
-  "$build/bin/zulgen-generate" --variants "$name" "$@" >"$work/variants.cpp"
+  while read -r order; do set -- "$@" --form "$order"; done <"$work/orders"
+  "$build/bin/zulgen-generate" --target "$root/targets/$target" \
+    --level-of "$root/targets/$architecture" --variants "$name" "$@" >"$work/variants.cpp"
   $compile -shared -nostdlib -o "$work/variants.so" "$work/variants.cpp"
   "$build/bin/zulgen-variants_$architecture" "$work/variants.so" "$name" "$(wc -l <"$work/orders")" |
     paste -d, "$work/orders" - | grep -v -e '-$' >"$work/times"

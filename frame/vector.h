@@ -93,4 +93,88 @@ D2 flip_signs(D2 x) {
   return _mm_xor_pd(x, _mm_setr_pd(a ? -0.0 : 0.0, b ? -0.0 : 0.0));
 }
 
+// What packed kernels of scalars need besides. Two floats are the low half of a vector whose high
+// half holds other floats that are used somewhere, or zeros: nothing that would slow the processor
+// down.
+using F2 = F4;
+inline F2 allF2(float x) { return allF4(x); }
+inline F2 lanesF2(float a, float b) { return _mm_setr_ps(a, b, 0, 0); }
+
+// Vectors of a given type at any address.
+template <class V>
+V load(const void* p) {
+  V v;
+  __builtin_memcpy(&v, p, sizeof v);
+  return v;
+}
+template <class V>
+void store(void* p, V v) {
+  __builtin_memcpy(p, &v, sizeof v);
+}
+inline F2 load_lanes(const float* low, const float* high) { return lanesF2(*low, *high); }
+template <int i>
+void store_lane(float* p, F4 v) {
+  *p = v[i];
+}
+template <int i>
+void store_lane(double* p, D2 v) {
+  *p = v[i];
+}
+
+template <int i>
+float lane(F4 v) {
+  return v[i];
+}
+template <int i>
+double lane(D2 v) {
+  return v[i];
+}
+
+// Lane i of `x` and lane j of `y`, which may be scalars.
+inline D2 as_vector(D2 v) { return v; }
+inline D2 as_vector(double v) {
+  D2 result;
+  asm("" : "=x"(result) : "0"(v));
+  return result;
+}
+template <int i, int j, class X, class Y>
+D2 join_doubles(X x, Y y) {
+  if constexpr (i == 0 && j == 1) {
+    return join_halves(as_vector(x), as_vector(y));
+  } else {
+    return shuffle<i, j>(as_vector(x), as_vector(y));
+  }
+}
+template <int i, int j>
+F2 join_floats(F2 x, F2 y) {
+  if constexpr (i == 0 && j == 0) {
+    return unpack_low(x, y);
+  } else {
+    return shuffle<0, 2, 0, 2>(shuffle<i, i, j, j>(x, y), x);
+  }
+}
+template <int i, int j>
+F2 join_floats(float x, float y) {
+  return lanesF2(x, y);
+}
+template <int i, int j>
+F2 join_floats(F2 x, float y) {
+  return lanesF2(x[i], y);
+}
+template <int i, int j>
+F2 join_floats(float x, F2 y) {
+  return lanesF2(x, y[j]);
+}
+
+template <int a, int b>
+F2 flip_signs(F2 x) {
+  return flip_signs<a, b, 0, 0>(x);
+}
+// Subtracts in even lanes, adds in odd ones.
+inline F4 subtract_add(F4 x, F4 y) { return _mm_addsub_ps(x, y); }
+inline D2 subtract_add(D2 x, D2 y) { return _mm_addsub_pd(x, y); }
+
+inline D2 widened(F2 x) { return _mm_cvtps_pd(x); }
+inline F2 rounded(D2 x) { return _mm_cvtpd_ps(x); }
+
 }  // namespace zulgen

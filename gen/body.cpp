@@ -33,31 +33,32 @@ std::string specialisation(const std::string& class_template, Precision precisio
   return class_template + "<" + vector + ", " + std::to_string(size) + ">";
 }
 
-std::string emit_body(const Body& body, const Order& order) {
+std::string emit_body(const Body& body, const Form& form) {
   const Graph graph = body.graph();
   const Graph code = lowered(graph, body.source_elements, body.loads_halves);
   const Counts counts = count_operations(graph);
   BodyStyle style;
+  style.moves = form.moves;
   style.accessors = body.accessors;
   style.stores_by_accessor = !body.accessors.empty();
 
   std::ostringstream text;
   text << "// " << body.name << ": " << body.recipe << "\n//   " << counts.additions
        << " additions, " << counts.multiplications
-       << " multiplications; order: " << to_string(order) << "\n";
+       << " multiplications; order: " << to_string(form.order) << "\n";
   text << "template <>\nstruct " << body.name << " {\n"
        << "  ZULGEN_BODY static void run(" << arguments_of(body, graph.sample_precision())
        << ") {\n";
   if (body.source_elements > 0 && !body.loads_halves) text << "    using Memory = Aligned;\n";
   std::istringstream statements(emit_constants(code) +
-                                emit_body(code, schedule(code, order), style));
+                                emit_body(code, schedule(code, form.order), style));
   for (std::string line; std::getline(statements, line);) text << "  " << line << "\n";
   text << "  }\n};\n";
   return text.str();
 }
 
 std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies,
-                                                     const OrderOfBody& order_of) {
+                                                     const FormOfBody& form_of) {
   std::map<std::string, std::string> headers;
   for (const Body& body : bodies) {
     std::string& header = headers[body.header];
@@ -67,7 +68,7 @@ std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bo
           "#pragma once\n\n#include \"" +
           body.declared_in + "\"\n\nnamespace zulgen {\n";
     }
-    header += "\n" + emit_body(body, order_of(body));
+    header += "\n" + emit_body(body, form_of(body));
   }
   for (auto& [name, text] : headers) text += "\n}  // namespace zulgen\n";
   return headers;

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "gen/form.h"
 #include "gen/graph.h"
-#include "gen/schedule.h"
 
 namespace gen {
 
@@ -32,12 +32,12 @@ struct Body {
 std::string specialisation(const std::string& class_template, Precision precision, int lane_count,
                            int size);
 
-// The specialisation as C++, its statements in the given order.
-std::string emit_body(const Body& body, const Order& order);
+// The specialisation as C++.
+std::string emit_body(const Body& body, const Form& form);
 
 // The headers that hold the bodies, by name.
-using OrderOfBody = std::function<Order(const Body&)>;
+using FormOfBody = std::function<Form(const Body&)>;
 std::map<std::string, std::string> headers_of_bodies(const std::vector<Body>& bodies,
-                                                     const OrderOfBody& order_of);
+                                                     const FormOfBody& form_of);
 
 }  // namespace gen

@@ -49,7 +49,7 @@ class ScalarExpansion {
       case Op::kFromZero:
         return -operand(node.a);
       case Op::kAdd:
-        return sum(operand(node.a), operand(node.b));
+        return sum(operand(node.a), node.flips >> lane & 1 ? -operand(node.b) : operand(node.b));
       case Op::kSub:
         return sum(operand(node.a), -operand(node.b));
       case Op::kMul:

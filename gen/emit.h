@@ -5,13 +5,16 @@
 #include <vector>
 
 #include "gen/graph.h"
+#include "gen/moves.h"
 
 namespace gen {
 
 // How the statements reach memory. They call the pointer to the elements read x, the one to those
 // written, which may equal it, y, and the factor, spread over the lanes, s.
 struct BodyStyle {
-  // The kernel has aligned and unaligned access to memory, by a template parameter `Memory`.
+  const MoveSet* moves = &sse_moves();
+  // The kernel has aligned and unaligned access to memory, by a template parameter `Memory`; or its
+  // vectors, of several types, are anywhere, and the factor is called s with the type behind it.
   bool memory_policy = true;
   // Accessors of fetched vectors, by number: `name.load(element)` brings one.
   std::vector<std::string> accessors;
@@ -19,6 +22,9 @@ struct BodyStyle {
   // read.
   bool stores_by_accessor = false;
 };
+
+// "float", "D2", "F8": the type of a node's values.
+std::string type_name(Precision precision, int lane_count);
 
 // The constants that the graph uses, one `constexpr` definition a line.
 std::string emit_constants(const Graph& graph);

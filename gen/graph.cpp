@@ -23,11 +23,12 @@ Value Graph::fetch(int array, int element, int lane_count) {
   return {intern(node)};
 }
 
-Value Graph::zero(Precision precision, int lane_count) {
+Value Graph::zero(Precision precision, int lane_count, unsigned flips) {
   Node node;
   node.op = Op::kZero;
   node.precision = precision;
   node.lane_count = lane_count;
+  node.flips = flips;
   return {intern(node)};
 }
 
@@ -77,6 +78,18 @@ Value Graph::add(Value a, Value b) {
   return {intern(node), a.negative};
 }
 
+Value Graph::add_or_subtract(Value a, Value b, unsigned subtracted) {
+  assert(!a.negative && !b.negative);
+  if (subtracted == 0) return add(a, b);
+  if (subtracted == (1u << nodes_[a.node].lane_count) - 1) return sub(a, b);
+  Node node = shaped_like(a.node);
+  node.op = Op::kAdd;
+  node.a = a.node;
+  node.b = b.node;
+  node.flips = subtracted;
+  return {intern(node)};
+}
+
 Value Graph::mul(const Factors& factors, Value a) {
   assert(static_cast<int>(factors.size()) == nodes_[a.node].lane_count);
   Node node = shaped_like(a.node);
@@ -111,7 +124,13 @@ Value Graph::unary(Op op, Value a, Precision precision) {
   return {intern(node), a.negative};
 }
 
-Value Graph::scale(Value a) { return unary(Op::kScale, a, nodes_[a.node].precision); }
+Value Graph::scale(Value a, unsigned flips) {
+  Node node = shaped_like(a.node);
+  node.op = Op::kScale;
+  node.a = a.node;
+  node.flips = flips;
+  return {intern(node), a.negative};
+}
 Value Graph::settle_sign(Value a) {
   return a.negative ? unary(Op::kFromZero, -a, nodes_[a.node].precision) : a;
 }
@@ -198,7 +217,8 @@ std::size_t Graph::KeyHash::operator()(const Key& key) const {
 
 NodeId Graph::intern(Node node) {
   NodeId a = node.a, b = node.b;
-  if ((node.op == Op::kAdd || node.op == Op::kProduct) && a > b) std::swap(a, b);
+  const bool commutes = (node.op == Op::kAdd && node.flips == 0) || node.op == Op::kProduct;
+  if (commutes && a > b) std::swap(a, b);
   Key key;
   key.reserve(3 + 2 * kMaxLanes);
   key = {static_cast<int>(node.op), static_cast<int>(node.precision), node.lane_count};
@@ -244,7 +264,7 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
     case Op::kFetch:
       return graph.fetch(node.array, node.element, node.lane_count);
     case Op::kZero:
-      return graph.zero(node.precision, node.lane_count);
+      return graph.zero(node.precision, node.lane_count, node.flips);
     case Op::kLanes: {
       std::vector<Lane> picks(node.picks.begin(), node.picks.begin() + node.lane_count);
       unsigned flips = 0;
@@ -261,6 +281,9 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
     case Op::kFromZero:
       return graph.settle_sign(-operand(node.a));
     case Op::kAdd:
+      if (node.flips != 0) {
+        return graph.add_or_subtract(operand(node.a), operand(node.b), node.flips);
+      }
       return graph.add(operand(node.a), operand(node.b));
     case Op::kSub:
       return graph.sub(operand(node.a), operand(node.b));
@@ -269,7 +292,7 @@ Value copy_node(const Graph& old, NodeId id, Graph& graph, const NewValues& new_
     case Op::kProduct:
       return graph.product(operand(node.a), operand(node.b));
     case Op::kScale:
-      return graph.scale(operand(node.a));
+      return graph.scale(operand(node.a), node.flips);
     case Op::kWiden:
       return graph.widen(operand(node.a));
     case Op::kRound:

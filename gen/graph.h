@@ -1,4 +1,4 @@
-// The data-flow graph (DAG) of one kernel: typed, hash-consed nodes on vectors of 1 to 4 lanes.
+// The data-flow graph (DAG) of one kernel: typed, hash-consed nodes on vectors of 1 to 8 lanes.
 //
 // A node is a value that the kernel computes. Nodes are only ever appended, and their operands
 // stand before them, so ascending order is a valid order of evaluation. Two requests for the same
@@ -18,22 +18,22 @@
 
 namespace gen {
 
-inline constexpr int kMaxLanes = 4;
+inline constexpr int kMaxLanes = 8;
 
 enum class Precision : std::uint8_t { kSingle, kDouble };
 
 enum class Op : std::uint8_t {
   kInput,      // one element of the source array; one lane
   kFetch,      // a vector that the caller of the code brings, by an accessor of its own
-  kZero,       // the constant +0.0
+  kZero,       // the constant +0.0, or, in the lanes of `flips`, -0.0
   kLanes,      // lanes picked from other nodes; lanes that nobody reads may stay open
   kFlipSigns,  // negates some lanes
   kFromZero,   // 0.0 - a: the negative, but +0.0 of either zero
-  kAdd,
+  kAdd,  // in the lanes of `flips`, a - b
   kSub,
   kMul,      // each lane by its own constant
   kProduct,  // of two values
-  kScale,    // by the factor that the call's flag selects
+  kScale,    // by the factor that the call's flag selects; in the lanes of `flips`, its negative
   kWiden,    // single to double
   kRound,    // double to single
 };
@@ -66,11 +66,16 @@ struct Node {
   NodeId a = kNoNode, b = kNoNode;     // operands
   int element = 0;                     // kInput, kFetch: index in the array
   int array = 0;                       // kFetch: number of the accessor
-  unsigned flips = 0;                  // kFlipSigns: bit l negates lane l
+  unsigned flips = 0;                  // a bit a lane: kFlipSigns negates those that are set
   std::array<Lane, kMaxLanes> picks;   // kLanes
   std::array<int, kMaxLanes> factors;  // kMul: indices into Graph::numbers()
   int stage = 0;                       // index into Graph::stages(); not part of its identity
 };
+
+// Whether an addition subtracts in even lanes and adds in odd ones, which is an instruction.
+inline bool subtracts_even_lanes(const Node& node) {
+  return node.flips == (0x55u & ((1u << node.lane_count) - 1));
+}
 
 // A part of the algorithm: the short name that its values begin with, and what it does.
 struct Stage {
@@ -91,17 +96,19 @@ class Graph {
   Value input(int element);
   // Vector number `element` of those that accessor number `array` reaches.
   Value fetch(int array, int element, int lane_count);
-  Value zero(Precision precision, int lane_count = 1);
+  Value zero(Precision precision, int lane_count = 1, unsigned flips = 0);
   // All picked lanes have the same precision; open lanes are default-constructed.
   Value lanes(const std::vector<Lane>& picks);
   Value flip_signs(Value a, unsigned flips);
   Value add(Value a, Value b);
   Value sub(Value a, Value b) { return add(a, -b); }
+  // a + b, but a - b in the lanes of `subtracted`. Both have no sign outside.
+  Value add_or_subtract(Value a, Value b, unsigned subtracted);
   Value mul(const Factors& factors, Value a);
   // By one constant in every lane; its sign moves out of the constant.
   Value mul(const Number& factor, Value a);
   Value product(Value a, Value b);
-  Value scale(Value a);
+  Value scale(Value a, unsigned flips = 0);
   // Carries out a sign that is still outside as 0.0 - a.
   Value settle_sign(Value a);
   Value widen(Value a);

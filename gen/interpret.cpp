@@ -37,6 +37,7 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
     if (!live[id]) continue;
     const Node& node = graph[id];
     for (int lane = 0; lane < node.lane_count; ++lane) {
+      const bool flip = node.flips >> lane & 1;
       const double a = node.a == kNoNode ? 0 : values[node.a][lane];
       double& result = values[id][lane];
       switch (node.op) {
@@ -46,7 +47,7 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
         case Op::kFetch:
           throw std::logic_error("what an accessor brings is not known here");
         case Op::kZero:
-          result = 0;
+          result = flip ? -0.0 : 0.0;
           break;
         case Op::kLanes: {
           const Lane& pick = node.picks[lane];
@@ -54,7 +55,7 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
           break;
         }
         case Op::kFlipSigns:
-          result = node.flips >> lane & 1 ? -a : a;
+          result = flip ? -a : a;
           break;
         case Op::kFromZero:
           result = 0.0 - a;
@@ -62,7 +63,8 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
         case Op::kAdd:
         case Op::kSub:
         case Op::kProduct:
-          result = operate(node.precision, node.op, a, values[node.b][lane]);
+          result = operate(node.precision, node.op, a,
+                           flip ? -values[node.b][lane] : values[node.b][lane]);
           break;
         case Op::kMul: {
           const Quad factor = graph.factor(node, lane).value();
@@ -70,7 +72,7 @@ std::vector<LaneValues> evaluate(const Graph& graph, const std::vector<double>& 
           break;
         }
         case Op::kScale:
-          result = operate(node.precision, Op::kMul, scale, a);
+          result = operate(node.precision, Op::kMul, flip ? -scale : scale, a);
           break;
         case Op::kWiden:
           result = a;

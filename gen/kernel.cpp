@@ -1,6 +1,7 @@
 #include "gen/kernel.h"
 
 #include <cmath>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 
@@ -46,6 +47,21 @@ std::string check_text(const Kernel& kernel) {
          (forward ? one : by_n) + ", " + by_sqrt_n + ");\n" + check + "kScale);\n" + fail;
 }
 
+// The scale factor spread over vectors of every type that is scaled.
+std::string wide_factors(const Graph& graph) {
+  std::set<std::string> types;
+  for (NodeId id = 0; id < graph.size(); ++id) {
+    if (graph[id].op == Op::kScale && graph[id].lane_count > 1) {
+      types.insert(type_name(graph[id].precision, graph[id].lane_count));
+    }
+  }
+  std::string text;
+  for (const std::string& type : types) {
+    text += "  const " + type + " s" + type + " = all" + type + "(s);\n";
+  }
+  return text;
+}
+
 std::string arguments_of(const Kernel& kernel) {
   const std::string type = kernel.sample_type();
   return "(const " + type + "* source, " + type + "* destination, zulgScaleFlag flag" +
@@ -74,17 +90,28 @@ Graph lowered(const Graph& graph, int source_elements, bool loads_halves) {
   return synthesize_shuffles(load_vectors(code, source_elements, loads_halves));
 }
 
+Graph packed(const Graph& lowered, const std::vector<Pairing>& pairings, const MoveSet& moves) {
+  Graph graph = number_from_outputs(lowered);
+  for (const Pairing& pairing : pairings) {
+    graph = number_from_outputs(pack(graph, pairing, moves));
+  }
+  prove_equal(lowered, graph);
+  return graph;
+}
+
 Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
-WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
+WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
   if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
   const Graph graph = kernel.graph();
-  const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
+  Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
+  const bool is_packed = !form.pairings.empty();
+  if (is_packed) code = packed(code, form.pairings, *form.moves);
   const double bound = port_bound(count_vector_operations(code));
   if (!kernel.same_as.empty()) return {emit_alias(kernel), bound};
   const std::string element = kernel.is_single() ? "float" : "double";
-  const bool vectors = kernel.bodies != Bodies::kOne;
+  const bool vectors = kernel.bodies != Bodies::kOne && !is_packed;
   const std::string arguments = arguments_of(kernel);
   const std::string body_name = kernel.name.substr(4);
   const bool is_chosen = kernel.direction == Direction::kSelfInverse;
@@ -93,21 +120,25 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Order& order) {
       vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
   std::ostringstream text;
-  text << heading(kernel, graph, order);
+  text << heading(kernel, graph, form.order);
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
   text << "inline zulgResult " << body_name << arguments << " {\n";
   text << check_text(kernel) << emit_constants(code);
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
-  text << "  const auto s = " << scale << ";\n\n";
+  text << "  const auto s = " << scale << ";\n";
+  if (is_packed) text << wide_factors(code);
+  text << "\n";
   BodyStyle style;
+  style.moves = form.moves;
   style.memory_policy = vectors;
-  text << emit_body(code, schedule(code, order), style);
+  text << emit_body(code, schedule(code, form.order), style);
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
   static constexpr const char* kFunctions[] = {"SCALAR", "SHORT_VECTOR", "VECTOR"};
-  text << "ZULGEN_" << kFunctions[static_cast<int>(kernel.bodies)] << "_KERNEL(" << body_name
+  const Bodies bodies = is_packed ? Bodies::kOne : kernel.bodies;
+  text << "ZULGEN_" << kFunctions[static_cast<int>(bodies)] << "_KERNEL(" << body_name
        << ",\n    " << arguments << ",\n    (source, destination, flag"
        << (kernel.has_work_argument ? ", work" : "") << "))\n";
   return {text.str(), bound};

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "gen/form.h"
 #include "gen/graph.h"
-#include "gen/schedule.h"
 #include "gen/signature.h"
 
 namespace gen {
@@ -50,12 +50,16 @@ Kernel kernel_of(const Signature& signature);
 // The graph in the form that is written out: sign flips in constants, lane moves as instructions.
 Graph lowered(const Graph& graph, int source_elements, bool loads_halves = false);
 
-// The kernel's functions as C++, its statements in the given order, and what they cost.
+// That form, numbered from its outputs, packed as the pairings tell one after the other. What comes
+// out is proved to be equal. Throws std::invalid_argument.
+Graph packed(const Graph& lowered, const std::vector<Pairing>& pairings, const MoveSet& moves);
+
+// The kernel's functions as C++, and what they cost.
 struct WrittenKernel {
   std::string text;
   double port_bound = 0;  // see cost.h
 };
-WrittenKernel emit_kernel(const Kernel& kernel, const Order& order);
+WrittenKernel emit_kernel(const Kernel& kernel, const Form& form);
 
 // The scale factors of a length N, computed as the kernels store them.
 Quad one_over_n(int n);

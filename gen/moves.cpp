@@ -4,26 +4,14 @@
 #include <cassert>
 #include <map>
 #include <set>
+#include <stdexcept>
 
 namespace gen {
-namespace {
-
-using Picks = std::array<Lane, kMaxLanes>;
-
-bool is_open(const Lane& lane) { return lane.node == kNoNode; }
-
-// Whether the lanes from `first` on are open or zero.
-bool is_blank(const Graph& graph, const Node& node, int first) {
-  return std::all_of(
-      node.picks.begin() + first, node.picks.begin() + node.lane_count,
-      [&](const Lane& lane) { return is_open(lane) || graph[lane.node].op == Op::kZero; });
-}
 
 bool is_memory(const Graph& graph, const Lane& lane) {
   return !is_open(lane) && graph[lane.node].op == Op::kInput;
 }
 
-// The first of `count` consecutive elements of the source that stand in lanes from `first` on.
 std::optional<int> memory_run(const Graph& graph, const Node& node, int first, int count) {
   if (!is_memory(graph, node.picks[first])) return std::nullopt;
   const int element = graph[node.picks[first].node].element;
@@ -34,35 +22,15 @@ std::optional<int> memory_run(const Graph& graph, const Node& node, int first, i
   return element;
 }
 
-// A load by itself: a whole vector, half of one, alone or twice, or two halves.
-std::optional<MoveForm> single_load(const Graph& graph, const Node& node) {
-  const int width = node.lane_count, half = width / 2;
-  MoveForm form{};
-  const auto low = memory_run(graph, node, 0, half);
-  if (!low) return std::nullopt;
-  form.element = *low;
-  if (memory_run(graph, node, 0, width)) {
-    form.move = Move::kLoad;
-  } else if (is_blank(graph, node, half)) {
-    form.move = Move::kLoadLow;
-  } else if (memory_run(graph, node, half, half) == low) {
-    form.move = Move::kLoadTwice;
-  } else if (const auto high = memory_run(graph, node, half, half)) {
-    form.move = Move::kLoadHalves;
-    form.high_element = *high;
-  } else {
-    return std::nullopt;
-  }
-  return form;
+const MoveSet& moves_called(const std::string& name) {
+  if (name == "sse") return sse_moves();
+  if (name == "avx2") return avx2_moves();
+  throw std::invalid_argument("no moves are called " + name);
 }
 
-// Lanes first, first + 1 of two vectors in turn.
-bool is_interleaved(const Picks& picks, int first) {
-  for (int lane = 0; lane < kMaxLanes; ++lane) {
-    if (is_open(picks[lane]) || picks[lane].index != first + lane / 2) return false;
-  }
-  return picks[0].node == picks[2].node && picks[1].node == picks[3].node;
-}
+namespace {
+
+using Picks = std::array<Lane, kMaxLanes>;
 
 bool is_mixed(const Picks& picks, int first) {
   return !is_open(picks[first]) && !is_open(picks[first + 1]) &&
@@ -88,7 +56,7 @@ std::map<Need, Helper> pair_needs(const Graph& graph) {
   const std::vector<bool> live = graph.live_nodes();
   std::map<std::pair<NodeId, NodeId>, std::set<Need>> needs;
   for (NodeId id = 0; id < graph.size(); ++id) {
-    if (!live[id] || graph[id].op != Op::kLanes || single_move(graph, id)) continue;
+    if (!live[id] || graph[id].op != Op::kLanes || sse_moves().single_move(graph, id)) continue;
     for (int first : {0, 2}) {
       if (!is_mixed(graph[id].picks, first)) continue;
       const Need need(graph[id].picks, first);
@@ -116,48 +84,15 @@ std::map<Need, Helper> pair_needs(const Graph& graph) {
 
 }  // namespace
 
-std::optional<MoveForm> single_move(const Graph& graph, NodeId lanes) {
-  const Node& node = graph[lanes];
-  const int width = node.lane_count, half = width / 2;
-  if (const auto load = single_load(graph, node)) return load;
-  MoveForm form{};
-  std::array<NodeId, 2> sources = {kNoNode, kNoNode};
-  bool shuffle = true;
-  for (int lane = 0; lane < width; ++lane) {
-    const Lane& pick = node.picks[lane];
-    if (is_memory(graph, pick)) return std::nullopt;
-    form.indices[lane] = is_open(pick) ? lane : pick.index;
-    if (is_open(pick)) continue;
-    NodeId& source = sources[lane / half];
-    if (source != kNoNode && source != pick.node) shuffle = false;
-    source = pick.node;
-  }
-  if (shuffle) {
-    form.move = Move::kShuffle;
-    form.a = sources[0] == kNoNode ? sources[1] : sources[0];
-    form.b = sources[1] == kNoNode ? sources[0] : sources[1];
-    return form;
-  }
-  for (const auto& [move, first] :
-       {std::pair(Move::kUnpackLow, 0), std::pair(Move::kUnpackHigh, 2)}) {
-    if (!is_interleaved(node.picks, first)) continue;
-    form.move = move;
-    form.a = node.picks[0].node;
-    form.b = node.picks[1].node;
-    return form;
-  }
-  return std::nullopt;
-}
-
 Graph load_vectors(const Graph& old, int source_length, bool by_halves) {
-  const auto stays = [&](const MoveForm& load) {
-    return load.move == Move::kLoadHalves ? by_halves : load.move != Move::kLoad;
+  const auto stays = [&](const Move& load) {
+    return load.elements.size() == 2 ? by_halves : !load.is_whole_load;
   };
   return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
     const Node& node = old[id];
     const int width = node.lane_count;
-    const auto load = node.op == Op::kLanes ? single_load(old, node) : std::nullopt;
-    if (node.op != Op::kLanes || (load && stays(*load))) {
+    const auto load = node.op == Op::kLanes ? sse_moves().single_move(old, id) : std::nullopt;
+    if (node.op != Op::kLanes || (load && !load->elements.empty() && stays(*load))) {
       return copy_node(old, id, graph, new_value);
     }
     std::vector<Lane> picks;
@@ -184,7 +119,7 @@ Graph synthesize_shuffles(const Graph& old) {
   const std::map<Need, Helper> helpers = pair_needs(old);
   return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
     const Node& node = old[id];
-    if (node.op != Op::kLanes || single_move(old, id)) {
+    if (node.op != Op::kLanes || sse_moves().single_move(old, id)) {
       return copy_node(old, id, graph, new_value);
     }
     const auto translated = [&](std::vector<Lane> picks) {
@@ -195,7 +130,7 @@ Graph synthesize_shuffles(const Graph& old) {
       }
       return picks;
     };
-    std::vector<Lane> picks = translated({node.picks.begin(), node.picks.end()});
+    std::vector<Lane> picks = translated({node.picks.begin(), node.picks.begin() + node.lane_count});
     for (int first : {0, 2}) {
       if (!is_mixed(node.picks, first)) continue;
       const Need need(node.picks, first);

@@ -124,4 +124,25 @@ Graph absorb_sign_flips(const Graph& old) {
   });
 }
 
+Graph absorb_lane_signs(const Graph& old) {
+  const std::vector<int> uses = use_counts(old);
+  return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
+    const Node& node = old[id];
+    const bool is_mixed = node.op == Op::kAdd && node.flips != 0 && !subtracts_even_lanes(node);
+    const NodeId source = is_mixed ? node.b : node.a;
+    if ((is_mixed || node.op == Op::kFlipSigns) && uses[source] == 1) {
+      const Node& turned = old[source];
+      const Value operand = turned.a == kNoNode ? Value{} : new_value[turned.a];
+      const bool is_product = turned.op == Op::kMul;
+      if (is_product || turned.op == Op::kScale) {
+        const Value value = is_product
+                                ? graph.mul(flipped(old.factors(turned), node.flips), operand)
+                                : graph.scale(operand, turned.flips ^ node.flips);
+        return is_mixed ? graph.add(new_value[node.a], value) : value;
+      }
+    }
+    return copy_node(old, id, graph, new_value);
+  });
+}
+
 }  // namespace gen

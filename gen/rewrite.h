@@ -33,4 +33,9 @@ Graph renumber_elements(const Graph& graph, const std::function<int(int)>& sourc
 // c * flip(x) and flip(c * x) become (flip c) * x.
 Graph absorb_sign_flips(const Graph& graph);
 
+// Moves what turns the signs of some lanes into the constants of a multiplication, or the factor of a
+// scaling, that nothing else reads: a sum that adds some lanes and subtracts others by no
+// instruction of its own, and a sign flip.
+Graph absorb_lane_signs(const Graph& graph);
+
 }  // namespace gen

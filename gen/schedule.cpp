@@ -1,9 +1,8 @@
 #include "gen/schedule.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
-
-#include "gen/moves.h"
 
 namespace gen {
 
@@ -44,8 +43,10 @@ bool is_load(const Graph& graph, NodeId id) {
   const Node& node = graph[id];
   if (node.op == Op::kInput || node.op == Op::kFetch || node.op == Op::kZero) return true;
   if (node.op != Op::kLanes) return false;
-  const auto form = single_move(graph, id);
-  return form && form->a == kNoNode;
+  const std::vector<NodeId> operands = graph.operands(id);
+  return std::all_of(operands.begin(), operands.end(), [&](NodeId operand) {
+    return graph[operand].op == Op::kInput || graph[operand].op == Op::kZero;
+  });
 }
 
 std::vector<NodeId> schedule(const Graph& graph, const Order& order) {

@@ -13,10 +13,10 @@ namespace {
 
 constexpr const char* kAssemblyEnd = "\n        .section .note.GNU-stack, \"\", @progbits\n";
 
-std::string source_file(const std::string& heading, const std::string& functions) {
-  return "// " + heading +
-         "\n#include \"frame/kernel.h\"\n#include \"frame/vector.h\"\n\nnamespace zulgen {\n" +
-         functions + "\n}  // namespace zulgen\n";
+std::string source_file(const std::string& heading, const gen::MoveSet& moves,
+                        const std::string& functions) {
+  return "// " + heading + "\n#include \"frame/kernel.h\"\n#include \"" + moves.header() +
+         "\"\n\nnamespace zulgen {\n" + functions + "\n}  // namespace zulgen\n";
 }
 
 // See contents.h.
@@ -48,7 +48,7 @@ class Sources {
       lines += line_of(kernel, gen::port_bound(gen::count_vector_operations(kernel.graph())));
       return;
     }
-    const gen::WrittenKernel written = emit_kernel(kernel, target_.order_of(kernel));
+    const gen::WrittenKernel written = emit_kernel(kernel, target_.form_of(kernel));
     lines += line_of(kernel, written.port_bound);
     std::vector<std::string>& shards = texts[family];
     const std::size_t shard =
@@ -91,28 +91,31 @@ void write_library(const Target& target, const std::string& directory, const Sha
     for (std::size_t shard = 0; shard < texts.size(); ++shard) {
       write(family + "." + std::to_string(shard) + ".cpp",
             source_file("Generated from the tables of " + family + "; a change belongs there.",
-                        texts[shard]));
+                        *target.moves, texts[shard]));
     }
     write(family + ".dispatch.s",
           "# Generated from the list of " + family + ".\n" + entries_of[family] + kAssemblyEnd);
   }
-  const auto order_of = [&](const gen::Body& body) { return target.order_of(body); };
-  for (const auto& [name, text] : headers_of_bodies(all_bodies(), order_of)) write(name, text);
+  const auto form_of = [&](const gen::Body& body) { return target.form_of(body); };
+  for (const auto& [name, text] : headers_of_bodies(all_bodies(), form_of)) write(name, text);
   write("library.txt", sources.lines);
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";
   write("zulgens8.map", exports + "  local:\n    *;\n};\n");
 }
 
-std::string source_of_variants(gen::Kernel kernel, const std::vector<gen::Order>& orders) {
+std::string source_of_variants(const Target& target, gen::Kernel kernel,
+                               const std::vector<std::string>& forms) {
   std::string functions;
   const std::string name = kernel.name;
+  const gen::Kernel row = kernel;
   kernel.graph = [graph = kernel.graph()] { return graph; };
-  for (std::size_t i = 0; i < orders.size(); ++i) {
+  for (std::size_t i = 0; i < forms.size(); ++i) {
     kernel.name = name + "_" + std::to_string(i);
-    functions += "\n" + emit_kernel(kernel, orders[i]).text;
+    functions += "\n" + emit_kernel(kernel, target.parse_form(row, forms[i])).text;
   }
-  return source_file(name + " in " + std::to_string(orders.size()) + " orders.", functions);
+  return source_file(name + " in " + std::to_string(forms.size()) + " forms.", *target.moves,
+                     functions);
 }
 
 }  // namespace generate

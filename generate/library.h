@@ -19,7 +19,8 @@ using Shards = std::map<std::string, int>;
 // which contents.h reads. Throws std::runtime_error.
 void write_library(const Target& target, const std::string& directory, const Shards& shards);
 
-// One source file that holds the kernel in all these orders, as functions NAME_0, NAME_1, ...
-std::string source_of_variants(gen::Kernel kernel, const std::vector<gen::Order>& orders);
+// One source file that holds the kernel in all these forms, as functions NAME_0, NAME_1, ...
+std::string source_of_variants(const Target& target, gen::Kernel kernel,
+                               const std::vector<std::string>& forms);
 
 }  // namespace generate

@@ -9,6 +9,7 @@
 #include "gen/dot.h"
 #include "generate/library.h"
 #include "generate/manifest.h"
+#include "generate/pairings.h"
 
 namespace {
 
@@ -25,11 +26,17 @@ constexpr const char* kUsage =
                                       kernel, for its row: takes some seconds
        zulgen-generate --target DIR --print NAME
                                       a kernel's source, or a body's
-       zulgen-generate --variants NAME --order ORDER...
-                                      a source file of the kernel in many orders, for measuring;
+       zulgen-generate --target DIR --variants NAME --form FORM...
+                                      a source file of the kernel in many forms, such as "live 3"
+                                      or, in vectors twice as wide, "live 3 x2", for measuring;
                                       they are called NAME_0, NAME_1, ...
+       zulgen-generate --pair NAME    the kernel's lines for a target's pairings.txt, after a search
+                                      of some seconds
        zulgen-generate --help         this text
 )";
+
+// Of the search for a pairing: a few seconds for a long kernel.
+constexpr int kSearchMoves = 200000;
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -38,7 +45,7 @@ struct UsageError : std::runtime_error {
 struct Options {
   std::string target, level_of, out, variants, print;
   generate::Shards shards;
-  std::vector<gen::Order> orders;
+  std::vector<std::string> forms;
 };
 
 gen::Kernel find_kernel(const std::string& name) {
@@ -57,10 +64,10 @@ generate::Target read_target(const Options& options) {
 std::string source_of(const Options& options) {
   const generate::Target target = read_target(options);
   for (const gen::Body& body : generate::all_bodies()) {
-    if (body.name == options.print) return emit_body(body, target.order_of(body));
+    if (body.name == options.print) return emit_body(body, target.form_of(body));
   }
   const gen::Kernel kernel = find_kernel(options.print);
-  return emit_kernel(kernel, target.order_of(kernel)).text;
+  return emit_kernel(kernel, target.form_of(kernel)).text;
 }
 
 void print_counts() {
@@ -111,13 +118,15 @@ void run(const std::vector<std::string>& arguments) {
   const std::map<std::string, std::function<void(Value)>> settings = {
       {"--recipe", [](Value name) { std::cout << find_kernel(name).recipe << "\n"; }},
       {"--arrange", [](Value name) { print_arrangement(find_kernel(name)); }},
+      {"--pair",
+       [](Value name) { std::cout << generate::find_pairings(find_kernel(name), kSearchMoves); }},
       {"--dot", [](Value name) { std::cout << gen::dot_graph(find_kernel(name)); }},
       {"--print", [&](Value name) { options.print = name; }},
       {"--variants", [&](Value name) { options.variants = name; }},
       {"--target", [&](Value folder) { options.target = folder; }},
       {"--level-of", [&](Value folder) { options.level_of = folder; }},
       {"--out", [&](Value folder) { options.out = folder; }},
-      {"--order", [&](Value order) { options.orders.push_back(gen::parse_order(order)); }},
+      {"--form", [&](Value form) { options.forms.push_back(form); }},
       {"--shards", [&](Value shards) { add_shards(options.shards, shards); }}};
   if (arguments.empty()) throw UsageError("nothing to do");
   bool done = false;
@@ -128,12 +137,14 @@ void run(const std::vector<std::string>& arguments) {
     if (setting == settings.end()) throw UsageError("what is " + option + "?");
     if (i + 1 == arguments.size()) throw UsageError(option + " wants a value");
     setting->second(arguments[++i]);
-    done = done || option == "--recipe" || option == "--dot" || option == "--arrange";
+    done = done || option == "--recipe" || option == "--dot" || option == "--arrange" ||
+           option == "--pair";
   }
   if (done) return;
   if (!options.variants.empty()) {
-    if (options.orders.empty()) throw UsageError("--variants wants an --order");
-    std::cout << generate::source_of_variants(find_kernel(options.variants), options.orders);
+    if (options.forms.empty()) throw UsageError("--variants wants a --form");
+    std::cout << generate::source_of_variants(read_target(options), find_kernel(options.variants),
+                                              options.forms);
   } else if (!options.print.empty()) {
     std::cout << source_of(options);
   } else if (!options.out.empty()) {

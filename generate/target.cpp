@@ -1,5 +1,6 @@
 #include "generate/target.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -33,43 +34,88 @@ std::set<std::string> wanted_rows() {
   return names;
 }
 
-// Lines of a name and an order of two words; those that begin with # are comments.
-std::map<std::string, gen::Order> read_orders(const std::string& path) {
+// Calls `read` with every line but comments, which begin with #.
+template <class Read>
+void read_lines(const std::string& path, Read read) {
   std::istringstream lines(read_file(path));
-  std::set<std::string> missing = wanted_rows();
-  std::map<std::string, gen::Order> orders;
   std::string line;
   for (int number = 1; std::getline(lines, line); ++number) {
     if (line.empty() || line[0] == '#') continue;
-    const auto fail = [&](const std::string& what) {
-      throw std::runtime_error(path + ":" + std::to_string(number) + ": " + what);
-    };
-    const std::size_t order = line.rfind(' ', line.rfind(' ') - 1);
-    const std::size_t name_end = line.find_last_not_of(' ', order);
-    if (name_end == std::string::npos) fail("not a name and an order");
-    const std::string name = line.substr(0, name_end + 1);
-    if (missing.erase(name) == 0) fail("no kernel, or a second row of it: " + name);
     try {
-      orders[name] = gen::parse_order(line.substr(order + 1));
+      read(line);
     } catch (const std::invalid_argument& error) {
-      fail(error.what());
+      throw std::runtime_error(path + ":" + std::to_string(number) + ": " + error.what());
     }
   }
+}
+
+// Lines of a name and a pairing: the first of a name is for the first run, and so on.
+void read_pairings(const std::string& path, Target& target) {
+  read_lines(path, [&](const std::string& line) {
+    const std::size_t name_end = std::min(line.find(' '), line.size() - 1);
+    target.pairings[line.substr(0, name_end)].push_back(
+        gen::parse_pairing(std::string_view(line).substr(name_end + 1)));
+  });
+}
+
+gen::Form parse_form(const Target& target, const std::string& name, std::string text) {
+  gen::Form form;
+  form.moves = target.moves;
+  for (std::size_t runs = 1; runs <= 2; ++runs) {
+    const std::string times = " x" + std::to_string(1 << runs);
+    if (!text.ends_with(times)) continue;
+    text.resize(text.size() - times.size());
+    const auto known = target.pairings.find(name);
+    if (known == target.pairings.end() || known->second.size() < runs) {
+      throw std::invalid_argument("no pairing for" + times + ": " + name);
+    }
+    form.pairings.assign(known->second.begin(), known->second.begin() + runs);
+  }
+  form.order = gen::parse_order(text);
+  return form;
+}
+
+// A line "moves" and the name of what the target has for moving lanes, then lines of a name and a
+// form.
+void read_forms(const std::string& path, Target& target) {
+  std::set<std::string> missing = wanted_rows();
+  read_lines(path, [&](const std::string& line) {
+    if (line.starts_with("moves ")) {
+      target.moves = &gen::moves_called(line.substr(6));
+      return;
+    }
+    if (target.moves == nullptr) throw std::invalid_argument("no moves before the first row");
+    // A body's name holds a space, and is followed by two as any.
+    const std::size_t name_end = line.find("  "), form = line.find_first_not_of(' ', name_end);
+    if (form == std::string::npos) throw std::invalid_argument("not a name and a form");
+    const std::string name = line.substr(0, name_end);
+    if (missing.erase(name) == 0) {
+      throw std::invalid_argument("no kernel, or a second row of it: " + name);
+    }
+    target.forms[name] = parse_form(target, name, line.substr(form));
+  });
   if (!missing.empty()) throw std::runtime_error(path + ": no row of " + *missing.begin());
-  return orders;
 }
 
 }  // namespace
 
-gen::Order Target::order_of(const gen::Kernel& kernel) const { return orders.at(row_name(kernel)); }
+gen::Form Target::form_of(const gen::Kernel& kernel) const { return forms.at(row_name(kernel)); }
+
+gen::Form Target::parse_form(const gen::Kernel& kernel, const std::string& text) const {
+  return generate::parse_form(*this, row_name(kernel), text);
+}
 
 Target read_target(const std::string& folder, const std::string& architecture_folder) {
   const auto find = [&](const std::string& file) {
     const std::string own = folder + "/" + file;
     return std::filesystem::exists(own) ? own : architecture_folder + "/" + file;
   };
-  return {std::filesystem::path(folder).filename(), read_file(find("entry.s.in")),
-          read_orders(find("kernels.txt"))};
+  Target target;
+  target.name = std::filesystem::path(folder).filename();
+  target.entry = read_file(find("entry.s.in"));
+  if (std::filesystem::exists(find("pairings.txt"))) read_pairings(find("pairings.txt"), target);
+  read_forms(find("kernels.txt"), target);
+  return target;
 }
 
 }  // namespace generate

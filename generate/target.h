@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include "gen/body.h"
 #include "gen/kernel.h"
@@ -13,12 +14,18 @@ struct Target {
   std::string name;  // of the folder
   // entry.s.in: the assembly of an entry that takes a length at run time.
   std::string entry;
-  // kernels.txt: how each kernel and each body is written down, by name. A real kernel's row, that
-  // of its CCS layout, stands for all layouts.
-  std::map<std::string, gen::Order> orders;
+  // pairings.txt, if there is one: what can go side by side in wider vectors, by kernel, for every
+  // run of the packing pass. A real kernel's row, that of its CCS layout, stands for all layouts.
+  std::map<std::string, std::vector<gen::Pairing>> pairings;
+  // kernels.txt: how each kernel and each body is written down, by name.
+  std::map<std::string, gen::Form> forms;
+  const gen::MoveSet* moves = nullptr;  // of all forms
 
-  gen::Order order_of(const gen::Kernel& kernel) const;
-  gen::Order order_of(const gen::Body& body) const { return orders.at(body.name); }
+  gen::Form form_of(const gen::Kernel& kernel) const;
+  gen::Form form_of(const gen::Body& body) const { return forms.at(body.name); }
+  // "live 3 x2": an order, and how many times as wide the vectors are as the kernel's own, by its
+  // pairings. Throws std::invalid_argument.
+  gen::Form parse_form(const gen::Kernel& kernel, const std::string& text) const;
 };
 
 // A level of an architecture has a folder of its own, and what isn't there is the architecture's.

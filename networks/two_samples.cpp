@@ -6,6 +6,8 @@
 namespace networks {
 namespace {
 
+constexpr int kLaneCount = 4;  // two samples
+
 // (im, re) of every sample.
 SamplePair swapped(const SamplePair& z) {
   const gen::NodeId node = z.v.value.node;
@@ -43,14 +45,14 @@ TwoSamples::Packed TwoSamples::pack(const std::vector<Sample>& samples) {
   for (const Sample& sample : samples) {
     if (sample.negative) flips |= 0b11u << lanes.size();
     if (sample.is_zero()) {
-      const gen::NodeId zero = graph_.zero(graph_.sample_precision(), gen::kMaxLanes).node;
+      const gen::NodeId zero = graph_.zero(graph_.sample_precision(), kLaneCount).node;
       lanes.insert(lanes.end(), {{zero, 0}, {zero, 1}});
     } else {
       lanes.insert(lanes.end(), {sample.re, sample.im});
     }
   }
   if (samples.size() == 1 && flips != 0) flips = 0b1111;
-  lanes.resize(gen::kMaxLanes);
+  lanes.resize(kLaneCount);
   return {{&graph_, graph_.flip_signs(graph_.lanes(lanes), flips)}};
 }
 

@@ -32,7 +32,7 @@ expect "^FirstStage<D2, 16> 68 32$" --counts
 expect "ZULGEN_VECTOR_KERNEL(${name#zulg}," --target "$target" --print $name
 expect "struct BaseCase<float, 8>" --target "$target" --print "BaseCase<float, 8>"
 expect "digraph $name" --dot $name
-expect "KERNEL(${name#zulg}_1," --variants $name --order "live 0" --order "bisect 2"
+expect "KERNEL(${name#zulg}_1," --target "$target" --variants $name --form "live 0" --form "bisect 2"
 expect "^01*$" --arrange zulgDFTInv_CToC_9_32fc
 expect "^usage" --help
 
@@ -49,8 +49,8 @@ refuse 2 "no kernel is called none" --recipe none
 refuse 2 "what is --sing?" --sing
 for count in x wht_32f=0 wht_32f=abc wht_32f=2x; do refuse 2 "not FAMILY=COUNT" --shards $count; done
 refuse 2 "no --target" --out "$work/out"
-refuse 2 "wants an --order" --variants $name
-refuse 1 "not an order: fast" --variants $name --order fast
+refuse 2 "wants a --form" --variants $name
+refuse 1 "not an order: fast" --target "$target" --variants $name --form fast
 refuse 1 "no shards for" --target "$target" --out "$work/out"
 # shellcheck disable=SC2086
 refuse 1 "can't write" --target "$target" --out /nonexistent/directory $shards

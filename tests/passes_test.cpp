@@ -125,7 +125,7 @@ int moves_needed(const std::vector<std::string>& wanted) {
   const std::vector<double> source = random_source(16);
   EXPECT_EQ(gen::interpret(moved, source, 1), gen::interpret(graph, source, 1));
   for (NodeId id = 0; id < moved.size(); ++id) {
-    EXPECT_TRUE(moved[id].op != Op::kLanes || gen::single_move(moved, id));
+    EXPECT_TRUE(moved[id].op != Op::kLanes || gen::sse_moves().single_move(moved, id));
   }
   return gen::count_vector_operations(moved).moves;
 }
@@ -157,12 +157,9 @@ TEST(Moves, NeverLoadBehindTheSource) {
     const Graph loaded = gen::load_vectors(graph, 10, by_halves);
     for (NodeId id = 0; id < loaded.size(); ++id) {
       if (loaded[id].op != Op::kLanes) continue;
-      const auto form = gen::single_move(loaded, id);
-      ASSERT_TRUE(form);
-      const bool is_load = form->a == gen::kNoNode;
-      const int count = !is_load ? 0 : form->move == gen::Move::kLoad ? 4 : 2;
-      EXPECT_LE(form->element + count, 10);
-      EXPECT_LE(form->high_element + 2, 10);
+      const auto move = gen::sse_moves().single_move(loaded, id);
+      ASSERT_TRUE(move);
+      for (const int first : move->elements) EXPECT_LE(first + (move->is_whole_load ? 4 : 2), 10);
     }
     EXPECT_EQ(gen::count_vector_operations(loaded).moves == 0, by_halves) << "loads do it all";
     EXPECT_EQ(gen::interpret(loaded, source, 1), gen::interpret(graph, source, 1));

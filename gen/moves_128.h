@@ -1,0 +1,14 @@
+// The moves of SSE, which wider targets have as well.
+#pragma once
+
+#include "gen/moves.h"
+
+namespace gen {
+
+class SseMoves : public MoveSet {
+ public:
+  std::optional<Move> single_move(const Graph& graph, NodeId lanes) const override;
+  const char* header() const override { return "frame/vector.h"; }
+};
+
+}  // namespace gen
