@@ -97,7 +97,7 @@ void write_library(const Target& target, const std::string& directory, const Sha
           "# Generated from the list of " + family + ".\n" + entries_of[family] + kAssemblyEnd);
   }
   const auto form_of = [&](const gen::Body& body) { return target.form_of(body); };
-  for (const auto& [name, text] : headers_of_bodies(all_bodies(), form_of)) write(name, text);
+  for (const auto& [name, text] : headers_of_bodies(target.bodies(), form_of)) write(name, text);
   write("library.txt", sources.lines);
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";
