@@ -45,7 +45,9 @@ class Sources {
     const std::string family = family_of(kernel);
     if (!texts.contains(family)) throw std::runtime_error("no shards for " + family);
     if (!kernel.is_generated) {
-      lines += line_of(kernel, gen::port_bound(gen::count_vector_operations(kernel.graph())));
+      const gen::Graph graph =
+          kernel.is_wide(*target_.moves) ? kernel.wide_graph() : kernel.graph();
+      lines += line_of(kernel, gen::port_bound(gen::count_vector_operations(graph)));
       return;
     }
     const gen::WrittenKernel written = emit_kernel(kernel, target_.form_of(kernel));

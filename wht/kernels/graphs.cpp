@@ -15,11 +15,6 @@ using gen::Precision;
 using networks::walsh_hadamard;
 using Vectors = std::vector<Expr>;
 
-// Whether an order is too short for vectors.
-bool is_scalar(Precision precision, int order) {
-  return order <= (precision == Precision::kSingle ? 3 : 2);
-}
-
 // Element `first` of the source and the ones behind it, up to half a vector, as lanes.
 void append_half(Graph& graph, int first, std::vector<Lane>& picks) {
   const int half = lanes_of(graph.sample_precision(), 128) / 2;
@@ -205,6 +200,10 @@ Graph long_graph(Precision precision, const Plan& plan, int vector_bits) {
 }
 
 }  // namespace
+
+bool is_scalar(Precision precision, int order) {
+  return order <= (precision == Precision::kSingle ? 3 : 2);
+}
 
 int lanes_of(Precision precision, int vector_bits) {
   return vector_bits / (precision == Precision::kSingle ? 32 : 64);

@@ -17,6 +17,9 @@ std::vector<gen::Kernel> kernels();
 // The bodies of the passes, as wht/passes.h declares them, in vectors of so many bits: 128 or 256.
 std::vector<gen::Body> bodies(int vector_bits);
 
+// Whether an order is too short for vectors.
+bool is_scalar(gen::Precision precision, int order);
+
 // Samples in a vector; the low log2(lanes) bits of an index tell the lane.
 int lanes_of(gen::Precision precision, int vector_bits);
 
