@@ -20,7 +20,17 @@ ZULGEN_BODY int run_rule(int rule, const auto& run) {
   }
 }
 
-// T(N) on L columns, `count` times, each time a step further on.
+// Runs groups of L lanes: run<WideVector>(0, count) for as many as go side by side, and, if one is
+// left over, run<Vector>(groups - 1, 1).
+ZULGEN_BODY void run_groups(int groups, const auto& run) {
+  const int left = groups % kSideBySide;
+  if (groups > left) run.template operator()<WideVector>(0, groups / kSideBySide);
+  if constexpr (kSideBySide > 1) {
+    if (left > 0) run.template operator()<Vector>(groups - left, left);
+  }
+}
+
+// T(N) on the columns of a vector, `count` times, each time a step further on.
 struct FirstStages {
   const Sample* forward;   // u[0]
   const Sample* reversed;  // u[1]
@@ -30,16 +40,16 @@ struct FirstStages {
   int count, in_step, out_step;
 };
 
-template <int N>
+template <class V, int N>
 static __attribute__((noinline)) int run_first_stages(const FirstStages& stages) {
   const Sample* forward = stages.forward;
   const Sample* reversed = stages.reversed;
   Sample* rows = stages.rows;
   for (int i = 0; i < stages.count; ++i) {
     // Strides that may have changed keep compilers from storing their multiples on the stack.
-    const Columns<Vector> x = {forward, reversed, stages.in_stride};
-    const Rows<Vector> y = {rows, stages.out_stride};
-    FirstStage<Vector, N>::run(x, y);
+    const Columns<V> x = {forward, reversed, stages.in_stride};
+    const Rows<V> y = {rows, stages.out_stride};
+    FirstStage<V, N>::run(x, y);
     forward += stages.in_step;
     reversed -= stages.in_step;
     rows += stages.out_step;
@@ -47,12 +57,13 @@ static __attribute__((noinline)) int run_first_stages(const FirstStages& stages)
   return ZULG_OK;
 }
 
+template <class V>
 static int run_first_stages(int rule, const FirstStages& stages) {
-  return run_rule<2, 6>(rule, [&]<int N> { return run_first_stages<N>(stages); });
+  return run_rule<2, 6>(rule, [&]<int N> { return run_first_stages<V, N>(stages); });
 }
 
-// A split works on L columns at a time. What stands between its two steps are N rows of L samples,
-// which lie side by side at the beginning of its work buffer: so they stay in the cache from one
+// A split works on W columns at a time, of which there are 32 then. What stands between its two
+// steps are N rows of W samples, which lie side by side at the beginning of its work buffer: so they stay in the cache from one
 // call to the next, where rows as far apart as those of the other buffers, a power of two, would
 // push one another out.
 
@@ -69,14 +80,15 @@ static __attribute__((noinline)) int run_skew_sums(const env8* self, Sample* dst
   Sample* direct = dst;
   Sample* mirrored = dst + step - 2 * row;
   for (int kappa = 0; kappa < self->sums; ++kappa) {
-    const auto x = vectors_from<Vector>(src), w = vectors_from<Vector>(within_table);
-    const RowPairs<Vector> y = {direct, mirrored, row, step};
+    const auto x = vectors_from<WideVector>(src);
+    const Table<WideVector, L, 0> w = {within_table}, v = {across_table};
+    const RowPairs<WideVector> y = {direct, mirrored, row, step};
     if constexpr (r <= 8) {
-      SkewSum<Vector, r>::run(x, w, y);
+      SkewSum<WideVector, r>::run(x, w, y);
     } else {
-      SkewSum<Vector, r>::run(x, w, vectors_from<Vector>(across_table), y);
+      SkewSum<WideVector, r>::run(x, w, v, y);
     }
-    src += 2 * L * r;
+    src += 2 * W * r;
     direct += 2 * row;
     mirrored -= 2 * row;
     within_table += within;
@@ -98,14 +110,14 @@ DCT4_FUNCTION(int, env9_compute, const env9* self, Sample* dst, int row, const S
               const Sample* reversed) {
   reversed += (self->r - 1) * self->in_stride;
   if (self->rule != 7) {
-    return run_first_stages(self->rule, {.forward = forward,
-                                         .reversed = reversed,
-                                         .in_stride = self->inner_in,
-                                         .rows = dst,
-                                         .out_stride = self->r * row,
-                                         .count = self->r,
-                                         .in_step = self->in_stride,
-                                         .out_step = row});
+    return run_first_stages<WideVector>(self->rule, {.forward = forward,
+                                                     .reversed = reversed,
+                                                     .in_stride = self->inner_in,
+                                                     .rows = dst,
+                                                     .out_stride = self->r * row,
+                                                     .count = self->r,
+                                                     .in_step = self->in_stride,
+                                                     .out_step = row});
   }
   const auto nested = first_in<env7>(self->steps);
   for (int i = 0; i < self->r; ++i) {
@@ -118,7 +130,7 @@ DCT4_FUNCTION(int, env9_compute, const env9* self, Sample* dst, int row, const S
 DCT4_DEFINE(int, env7_compute, const env7* self, Sample* dst, int row, const Sample* forward,
             const Sample* reversed) {
   if (self->rule != 1) return ZULG_ERR_CONTEXT;
-  env9_compute(first_in<env9>(self->second), self->work, L, forward, reversed);
+  env9_compute(first_in<env9>(self->second), self->work, W, forward, reversed);
   env8_compute(first_in<env8>(self->first), dst, row, self->work);
   return ZULG_OK;
 }
@@ -126,18 +138,22 @@ DCT4_DEFINE(int, env7_compute, const env7* self, Sample* dst, int row, const Sam
 DCT4_FUNCTION(int, env5_compute, const env5* self, Sample* dst, const Sample* src) {
   const Sample* const reversed = src + (self->last - (self->N - 1) * self->in_stride);
   if (self->rule != 7) {
-    return run_first_stages(self->rule, {.forward = src,
-                                         .reversed = reversed,
-                                         .in_stride = self->in_stride,
-                                         .rows = dst,
-                                         .out_stride = self->out_stride,
-                                         .count = self->groups,
-                                         .in_step = L,
-                                         .out_step = L});
+    int result = ZULG_OK;
+    run_groups(self->groups, [&]<class V>(int first, int count) {
+      result = run_first_stages<V>(self->rule, {.forward = src + L * first,
+                                                .reversed = reversed - L * first,
+                                                .in_stride = self->in_stride,
+                                                .rows = dst + L * first,
+                                                .out_stride = self->out_stride,
+                                                .count = count,
+                                                .in_step = kLanes<V>,
+                                                .out_step = kLanes<V>});
+    });
+    return result;
   }
   const auto split = first_in<env7>(self->steps);
-  for (int i = 0; i < self->groups; ++i) {
-    env7_compute(split, dst + L * i, self->out_stride, src + L * i, reversed - L * i);
+  for (int at = 0; at < L * self->groups; at += W) {
+    env7_compute(split, dst + at, self->out_stride, src + at, reversed - at);
   }
   return ZULG_OK;
 }
@@ -152,15 +168,18 @@ template <int d>
 static __attribute__((noinline)) int run_second_stages(const env4* self, Sample* dst,
                                                        const Sample* src) {
   const int step = 2 * L * self->groups;
-  const Sample* table = self->table;
-  Results<Vector, d> y = {dst, dst + self->last - step * (2 * d - 1), step};
-  for (int g = 0; g < self->groups; ++g) {
-    SecondStage<Vector, d>::run(src, vectors_from<Vector>(table), y);
-    y.forward += L;
-    y.reversed -= L;
-    src += 2 * d * L;
-    table += 2 * d * L;
-  }
+  run_groups(self->groups, [&]<class V>(int first, int count) {
+    const Sample* x = src + 2 * d * L * first;
+    const Sample* table = self->table + 2 * d * L * first;
+    Results<V, d> y = {dst + L * first, dst + self->last - step * (2 * d - 1) - L * first, step};
+    for (int i = 0; i < count; ++i) {
+      SecondStage<V, d>::run(x, Table<V, L, 2 * d * L>{table}, y);
+      y.forward += kLanes<V>;
+      y.reversed -= kLanes<V>;
+      x += 2 * d * kLanes<V>;
+      table += 2 * d * kLanes<V>;
+    }
+  });
   return ZULG_OK;
 }
 
@@ -172,16 +191,16 @@ static __attribute__((noinline)) int run_second_stages_by_lines(const env4* self
   constexpr int d = 32, kLine = 64 / sizeof(Sample);
   const int step = 2 * L * self->groups;
   const Sample* table = self->table;
-  Results<Vector, d> y = {dst, dst + self->last - step * (2 * d - 1), step};
+  Results<WideVector, d> y = {dst, dst + self->last - step * (2 * d - 1), step};
   alignas(64) Sample lines[2 * d * kLine];
   for (int g = 0; g < self->groups; g += kLine / L) {
-    for (int lane = 0; lane < kLine; lane += L) {
-      SecondStage<Vector, d>::run(src, vectors_from<Vector>(table),
-                                  Rows<Vector>{lines + lane, kLine});
-      src += 2 * d * L;
-      table += 2 * d * L;
+    for (int lane = 0; lane < kLine; lane += W) {
+      SecondStage<WideVector, d>::run(src, Table<WideVector, L, 2 * d * L>{table},
+                                      Rows<WideVector>{lines + lane, kLine});
+      src += 2 * d * W;
+      table += 2 * d * W;
     }
-    y.template store_rows<kLine / L>(lines);
+    y.template store_rows<kLine / W>(lines);
     y.forward += kLine;
     y.reversed -= kLine;
   }

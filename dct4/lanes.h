@@ -1,18 +1,31 @@
 // How the kernels reach memory. Inside a plan's block, vectors are aligned on 16 bytes. Source and
-// destination of a transform are aligned as single samples: there, vectors are put together and
-// taken apart sample by sample.
+// destination of a transform are aligned as single samples: there, unless any address will do,
+// vectors are put together and taken apart sample by sample.
 #pragma once
 
 #include "frame/rows.h"
 
 namespace zulgen {
 
-// Vectors and single samples, `step` apart.
-template <class V>
+// Vectors and single samples, `step` apart, which is 1 or -1.
+template <class V, bool any_address = kAnyAddress>
 struct Lanes;
 
+template <class V>
+struct Lanes<V, true> {
+  ZULGEN_BODY static V gather(const SampleOf<V>* p, int step) {
+    return step > 0 ? load<V>(p) : load_reversed<V>(p + 1 - kLanes<V>);
+  }
+  ZULGEN_BODY static void scatter(SampleOf<V>* p, int step, V v) {
+    step > 0 ? store(p, v) : store_reversed(p + 1 - kLanes<V>, v);
+  }
+  ZULGEN_BODY static void scatter(SampleOf<V>* p, int step, const SampleOf<V>* v) {
+    scatter(p, step, load<V>(v));
+  }
+};
+
 template <>
-struct Lanes<F4> {
+struct Lanes<F4, false> {
   // p[0], p[step], p[2 step], p[3 step].
   ZULGEN_BODY static F4 gather(const float* p, int step) {
     const F4 low = unpack_low(_mm_load_ss(p), _mm_load_ss(p + step));
@@ -35,7 +48,7 @@ struct Lanes<F4> {
 };
 
 template <>
-struct Lanes<D2> {
+struct Lanes<D2, false> {
   ZULGEN_BODY static D2 gather(const double* p, int step) {
     return _mm_loadh_pd(_mm_load_sd(p), p + step);
   }
@@ -67,6 +80,23 @@ ZULGEN_BODY SourceRows<V> vectors_from(const SampleOf<V>* first) {
   return {first, kLanes<V>};
 }
 
+// The same of a table whose vectors are those of a plan, half as wide as V may be: the upper halves
+// stand `distance` samples behind the lower ones, which is 0 if they are equal.
+template <class V, int lanes, int distance>
+struct Table {
+  const SampleOf<V>* first;
+  ZULGEN_BODY V load(int i) const {
+    const SampleOf<V>* const p = first + i * lanes;
+    if constexpr (lanes == kLanes<V>) {
+      return load_by<V, Aligned>(p);
+    } else if constexpr (distance == 0) {
+      return load_twice<V>(p);
+    } else {
+      return load_two<V>(p, p + distance);
+    }
+  }
+};
+
 // The results of a skew transform: vectors 4 a and 4 a + 1 go to two rows that move up with a,
 // 4 a + 2 and 4 a + 3 to two others.
 template <class V>
@@ -77,7 +107,7 @@ struct RowPairs {
   int step;  // from a to a + 1
   ZULGEN_BODY void store(int i, V v) const {
     SampleOf<V>* const pair = (i % 4 < 2 ? direct : mirrored) + i / 4 * step;
-    Aligned::store(i % 2 == 0 ? pair : pair + row, v);
+    store_by<V, Aligned>(i % 2 == 0 ? pair : pair + row, v);
   }
 };
 

@@ -30,6 +30,9 @@ using Sample = DCT4_OF_TYPE(zulg, );
 // Its L lanes are in a plan's sizes, tables and strides, whatever vectors a processor has.
 using Vector = std::conditional_t<sizeof(Sample) == sizeof(float), F4, D2>;
 constexpr int L = kLanes<Vector>;
+// A processor's own hold the lanes of as many groups side by side.
+using WideVector = Wide<Vector>;
+constexpr int W = kLanes<WideVector>, kSideBySide = W / L;
 
 struct Step {  // what every step begins with
   ObjectHeader header;

@@ -31,6 +31,14 @@ inline F8 load_each_twice(const float* low, const float* high) {
   return F8(_mm256_blend_pd(_mm256_set1_pd(x), _mm256_set1_pd(y), 0b1100));
 }
 
+// Two halves from two places.
+template <class V>
+V load_two(const void* low, const void* high) {
+  const __m128i half = _mm_loadu_si128(static_cast<const __m128i*>(low));
+  return V(_mm256_inserti128_si256(_mm256_castsi128_si256(half),
+                                   _mm_loadu_si128(static_cast<const __m128i*>(high)), 1));
+}
+
 // A vector of 128 bits as the low half of a wider one, whose high half nobody reads.
 inline F8 as_low_half(F4 v) { return _mm256_castps128_ps256(v); }
 inline D4 as_low_half(D2 v) { return _mm256_castpd128_pd256(v); }
@@ -108,6 +116,30 @@ D4 shuffle(D4 x) {
     return D4(_mm256_shuffle_epi32(__m256i(x), _MM_SHUFFLE(1, 0, 3, 2)));
   } else {
     return shuffle<a, b, c, d>(x, x);
+  }
+}
+
+// Vectors in memory with their lanes in descending order.
+inline F4 reversed_halves(F4 v) { return shuffle<3, 2, 1, 0>(v, v); }
+inline D2 reversed_halves(D2 v) { return shuffle<1, 0>(v, v); }
+inline F8 reversed_halves(F8 v) { return shuffle<3, 2, 1, 0>(v); }
+inline D4 reversed_halves(D4 v) { return shuffle<1, 0, 3, 2>(v); }
+template <class V, class T>
+V load_reversed(const T* p) {
+  if constexpr (sizeof(V) == 16) {
+    return reversed_halves(load<V>(p));
+  } else {
+    return reversed_halves(load_two<V>(p + 16 / sizeof(T), p));
+  }
+}
+template <class V, class T>
+void store_reversed(T* p, V v) {
+  v = reversed_halves(v);
+  if constexpr (sizeof(V) == 16) {
+    store(p, v);
+  } else {
+    store(p, high_half(v));
+    store(p + 16 / sizeof(T), low_half(v));
   }
 }
 

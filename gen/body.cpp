@@ -5,6 +5,7 @@
 #include "gen/count.h"
 #include "gen/emit.h"
 #include "gen/kernel.h"
+#include "gen/side_by_side.h"
 
 namespace gen {
 namespace {
@@ -35,10 +36,12 @@ std::string specialisation(const std::string& class_template, Precision precisio
 
 std::string emit_body(const Body& body, const Form& form) {
   const Graph graph = body.graph();
-  const Graph code = lowered(graph, body.source_elements, body.loads_halves);
+  Graph code = lowered(graph, body.source_elements, body.loads_halves);
+  if (body.is_doubled) code = side_by_side(code, body.source_elements);
   const Counts counts = count_operations(graph);
   BodyStyle style;
   style.moves = form.moves;
+  style.memory_policy = form.moves->vector_bits() == 128;
   style.accessors = body.accessors;
   style.stores_by_accessor = !body.accessors.empty();
 
@@ -49,7 +52,7 @@ std::string emit_body(const Body& body, const Form& form) {
   text << "template <>\nstruct " << body.name << " {\n"
        << "  ZULGEN_BODY static void run(" << arguments_of(body, graph.sample_precision())
        << ") {\n";
-  if (body.source_elements > 0 && !body.loads_halves) text << "    using Memory = Aligned;\n";
+  if (body.source_elements > 0 && !body.loads_halves && style.memory_policy) text << "    using Memory = Aligned;\n";
   std::istringstream statements(emit_constants(code) +
                                 emit_body(code, schedule(code, form.order), style));
   for (std::string line; std::getline(statements, line);) text << "  " << line << "\n";

@@ -26,6 +26,8 @@ struct Body {
   int source_elements = 0;
   bool loads_halves = false;
   std::function<Graph()> graph;
+  // Two of the graph side by side; the second's source stands behind the first's.
+  bool is_doubled = false;
 };
 
 // "FirstStage<F4, 8>": a class template for vectors of so many lanes and a size.

@@ -105,13 +105,16 @@ Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
   if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
   const Graph graph = kernel.graph();
-  Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
-  const bool is_packed = !form.pairings.empty();
+  const bool is_wide = kernel.is_wide(*form.moves), is_packed = !form.pairings.empty();
+  Graph code = is_wide ? lowered(kernel.wide_graph(), kernel.source_elements)
+                       : lowered(graph, kernel.source_elements, kernel.loads_halves);
+  if (is_wide) prove_equal(graph, code);
   if (is_packed) code = packed(code, form.pairings, *form.moves);
   const double bound = port_bound(count_vector_operations(code));
   if (!kernel.same_as.empty()) return {emit_alias(kernel), bound};
   const std::string element = kernel.is_single() ? "float" : "double";
-  const bool vectors = kernel.bodies != Bodies::kOne && !is_packed;
+  const bool any_address = is_wide || is_packed;
+  const bool vectors = kernel.bodies != Bodies::kOne && !any_address;
   const std::string arguments = arguments_of(kernel);
   const std::string body_name = kernel.name.substr(4);
   const bool is_chosen = kernel.direction == Direction::kSelfInverse;
@@ -120,7 +123,7 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
       vectors ? (element == "float" ? "allF4(" : "allD2(") + factor + ")" : factor;
 
   std::ostringstream text;
-  text << heading(kernel, graph, form.order);
+  text << heading(kernel, is_wide ? code : graph, form.order);
   text << "namespace {\n";
   if (vectors) text << "template <class Memory>\n";
   text << "inline zulgResult " << body_name << arguments << " {\n";
@@ -128,7 +131,7 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
   text << "  const auto x = reinterpret_cast<const " << element << "*>(source);\n";
   text << "  const auto y = reinterpret_cast<" << element << "*>(destination);\n";
   text << "  const auto s = " << scale << ";\n";
-  if (is_packed) text << wide_factors(code);
+  if (any_address) text << wide_factors(code);
   text << "\n";
   BodyStyle style;
   style.moves = form.moves;
@@ -137,7 +140,7 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
   text << "  return ZULG_OK;\n}\n}  // namespace\n\n";
 
   static constexpr const char* kFunctions[] = {"SCALAR", "SHORT_VECTOR", "VECTOR"};
-  const Bodies bodies = is_packed ? Bodies::kOne : kernel.bodies;
+  const Bodies bodies = any_address ? Bodies::kOne : kernel.bodies;
   text << "ZULGEN_" << kFunctions[static_cast<int>(bodies)] << "_KERNEL(" << body_name
        << ",\n    " << arguments << ",\n    (source, destination, flag"
        << (kernel.has_work_argument ? ", work" : "") << "))\n";

@@ -36,8 +36,11 @@ struct Kernel : Signature {
   bool is_generated = true;
   // See load_vectors().
   bool loads_halves = false;
-  // The data flow, as the network gives it.
-  std::function<Graph()> graph;
+  // The data flow, as the network gives it; and the same values in vectors of 256 bits, if that is
+  // no matter of packing.
+  std::function<Graph()> graph, wide_graph;
+
+  bool is_wide(const MoveSet& moves) const { return wide_graph && moves.vector_bits() == 256; }
 
   // The C type of the samples.
   std::string sample_type() const { return "zulg" + type_of(*this); }

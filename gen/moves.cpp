@@ -32,6 +32,12 @@ namespace {
 
 using Picks = std::array<Lane, kMaxLanes>;
 
+// Lanes of 128 bits that no single move brings together.
+bool is_unserved(const Graph& graph, NodeId id) {
+  const Node& node = graph[id];
+  return node.op == Op::kLanes && bits_of(node) <= 128 && !sse_moves().single_move(graph, id);
+}
+
 bool is_mixed(const Picks& picks, int first) {
   return !is_open(picks[first]) && !is_open(picks[first + 1]) &&
          picks[first].node != picks[first + 1].node;
@@ -56,7 +62,7 @@ std::map<Need, Helper> pair_needs(const Graph& graph) {
   const std::vector<bool> live = graph.live_nodes();
   std::map<std::pair<NodeId, NodeId>, std::set<Need>> needs;
   for (NodeId id = 0; id < graph.size(); ++id) {
-    if (!live[id] || graph[id].op != Op::kLanes || sse_moves().single_move(graph, id)) continue;
+    if (!live[id] || !is_unserved(graph, id)) continue;
     for (int first : {0, 2}) {
       if (!is_mixed(graph[id].picks, first)) continue;
       const Need need(graph[id].picks, first);
@@ -119,9 +125,7 @@ Graph synthesize_shuffles(const Graph& old) {
   const std::map<Need, Helper> helpers = pair_needs(old);
   return rebuild(old, [&](Graph& graph, NodeId id, const NewValues& new_value) {
     const Node& node = old[id];
-    if (node.op != Op::kLanes || sse_moves().single_move(old, id)) {
-      return copy_node(old, id, graph, new_value);
-    }
+    if (!is_unserved(old, id)) return copy_node(old, id, graph, new_value);
     const auto translated = [&](std::vector<Lane> picks) {
       for (Lane& pick : picks) {
         if (is_open(pick)) continue;

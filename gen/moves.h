@@ -37,6 +37,9 @@ class MoveSet {
 
   // The header that holds its functions.
   virtual const char* header() const = 0;
+
+  // The width of its vectors. Those wider than 128 bits come from any address without a loss.
+  virtual int vector_bits() const = 0;
 };
 
 // SSE with movddup, eight or sixteen registers of 128 bits. Lanes may also be picked by halves of
@@ -46,6 +49,10 @@ const MoveSet& sse_moves();
 const MoveSet& avx2_moves();
 // Those of this name, "sse" or "avx2". Throws std::invalid_argument.
 const MoveSet& moves_called(const std::string& name);
+
+inline int bits_of(const Node& node) {
+  return node.lane_count * (node.precision == Precision::kSingle ? 32 : 64);
+}
 
 inline bool is_open(const Lane& lane) { return lane.node == kNoNode; }
 

@@ -9,6 +9,7 @@ class SseMoves : public MoveSet {
  public:
   std::optional<Move> single_move(const Graph& graph, NodeId lanes) const override;
   const char* header() const override { return "frame/vector.h"; }
+  int vector_bits() const override { return 128; }
 };
 
 }  // namespace gen

@@ -6,10 +6,6 @@
 namespace gen {
 namespace {
 
-int bits_of(const Node& node) {
-  return node.lane_count * (node.precision == Precision::kSingle ? 32 : 64);
-}
-
 // `count` lanes from `first` on, taken side by side from one half of a vector.
 struct Half {
   NodeId node = kNoNode;
@@ -124,6 +120,7 @@ class Avx2Moves : public SseMoves {
   }
 
   const char* header() const override { return "frame/vector256.h"; }
+  int vector_bits() const override { return 256; }
 };
 
 }  // namespace

@@ -45,7 +45,9 @@ class Sources {
     const std::string family = family_of(kernel);
     if (!texts.contains(family)) throw std::runtime_error("no shards for " + family);
     if (!kernel.is_generated) {
-      lines += line_of(kernel, gen::port_bound(gen::count_vector_operations(kernel.graph())));
+      const gen::Graph graph =
+          kernel.is_wide(*target_.moves) ? kernel.wide_graph() : kernel.graph();
+      lines += line_of(kernel, gen::port_bound(gen::count_vector_operations(graph)));
       return;
     }
     const gen::WrittenKernel written = emit_kernel(kernel, target_.form_of(kernel));
@@ -97,7 +99,7 @@ void write_library(const Target& target, const std::string& directory, const Sha
           "# Generated from the list of " + family + ".\n" + entries_of[family] + kAssemblyEnd);
   }
   const auto form_of = [&](const gen::Body& body) { return target.form_of(body); };
-  for (const auto& [name, text] : headers_of_bodies(all_bodies(), form_of)) write(name, text);
+  for (const auto& [name, text] : headers_of_bodies(target.bodies(), form_of)) write(name, text);
   write("library.txt", sources.lines);
   std::string exports = "{\n  global:\n";
   for (const std::string& name : exported_functions()) exports += "    " + name + ";\n";

@@ -63,7 +63,7 @@ generate::Target read_target(const Options& options) {
 
 std::string source_of(const Options& options) {
   const generate::Target target = read_target(options);
-  for (const gen::Body& body : generate::all_bodies()) {
+  for (const gen::Body& body : target.bodies()) {
     if (body.name == options.print) return emit_body(body, target.form_of(body));
   }
   const gen::Kernel kernel = find_kernel(options.print);
@@ -77,7 +77,7 @@ void print_counts() {
     std::cout << name << " " << counts.additions << " " << counts.multiplications << "\n";
   };
   for (const gen::Kernel& kernel : generate::all_kernels()) print(kernel.name, kernel.graph());
-  for (const gen::Body& body : generate::all_bodies()) print(body.name, body.graph());
+  for (const gen::Body& body : generate::all_bodies(128)) print(body.name, body.graph());
 }
 
 void print_arrangement(const gen::Kernel& kernel) {

@@ -20,9 +20,9 @@ std::vector<gen::Kernel> all_kernels() {
   return result;
 }
 
-std::vector<gen::Body> all_bodies() {
-  std::vector<gen::Body> result = dct4::bodies();
-  for (const gen::Body& body : wht::bodies()) result.push_back(body);
+std::vector<gen::Body> all_bodies(int vector_bits) {
+  std::vector<gen::Body> result = dct4::bodies(vector_bits);
+  for (const gen::Body& body : wht::bodies(vector_bits)) result.push_back(body);
   return result;
 }
 

@@ -25,12 +25,12 @@ std::string read_file(const std::string& path) {
   return text.str();
 }
 
-std::set<std::string> wanted_rows() {
+std::set<std::string> wanted_rows(const Target& target) {
   std::set<std::string> names;
   for (const gen::Kernel& kernel : all_kernels()) {
     if (kernel.is_generated) names.insert(row_name(kernel));
   }
-  for (const gen::Body& body : all_bodies()) names.insert(body.name);
+  for (const gen::Body& body : target.bodies()) names.insert(body.name);
   return names;
 }
 
@@ -78,10 +78,11 @@ gen::Form parse_form(const Target& target, const std::string& name, std::string 
 // A line "moves" and the name of what the target has for moving lanes, then lines of a name and a
 // form.
 void read_forms(const std::string& path, Target& target) {
-  std::set<std::string> missing = wanted_rows();
+  std::set<std::string> missing;
   read_lines(path, [&](const std::string& line) {
     if (line.starts_with("moves ")) {
       target.moves = &gen::moves_called(line.substr(6));
+      missing = wanted_rows(target);
       return;
     }
     if (target.moves == nullptr) throw std::invalid_argument("no moves before the first row");
@@ -104,6 +105,8 @@ gen::Form Target::form_of(const gen::Kernel& kernel) const { return forms.at(row
 gen::Form Target::parse_form(const gen::Kernel& kernel, const std::string& text) const {
   return generate::parse_form(*this, row_name(kernel), text);
 }
+
+std::vector<gen::Body> Target::bodies() const { return all_bodies(moves->vector_bits()); }
 
 Target read_target(const std::string& folder, const std::string& architecture_folder) {
   const auto find = [&](const std::string& file) {

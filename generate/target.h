@@ -26,6 +26,8 @@ struct Target {
   // "live 3 x2": an order, and how many times as wide the vectors are as the kernel's own, by its
   // pairings. Throws std::invalid_argument.
   gen::Form parse_form(const gen::Kernel& kernel, const std::string& text) const;
+  // Those for its vectors.
+  std::vector<gen::Body> bodies() const;
 };
 
 // A level of an architecture has a folder of its own, and what isn't there is the architecture's.

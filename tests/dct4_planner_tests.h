@@ -350,19 +350,19 @@ void expect_value(Value wanted, Sample re, Sample im, int size) {
 template <int N>
 void check_first_stages() {
   // Twice, two columns on, with rows 3 vectors apart.
-  constexpr int stride = 20, row = 3 * L;
+  constexpr int stride = 20, row = 3 * W;
   const std::vector<Sample> x = random_samples(stride * N);
   alignas(16) Sample z[N * row];
-  run_first_stages<N>({.forward = x.data(),
-                       .reversed = x.data() + stride - 1,
-                       .in_stride = stride,
-                       .rows = z,
-                       .out_stride = row,
-                       .count = 2,
-                       .in_step = 2,
-                       .out_step = L});
-  for (int i = 0; i < 2 * L; ++i) {
-    const int column = i % L + i / L * 2;
+  run_first_stages<WideVector, N>({.forward = x.data(),
+                                   .reversed = x.data() + stride - 1,
+                                   .in_stride = stride,
+                                   .rows = z,
+                                   .out_stride = row,
+                                   .count = 2,
+                                   .in_step = 2,
+                                   .out_step = W});
+  for (int i = 0; i < 2 * W; ++i) {
+    const int column = i % W + i / W * 2;
     for (int q = 0; q < N / 2; ++q) {
       Value sum = 0;
       for (int s = 0; s < N; ++s) {
@@ -377,20 +377,20 @@ void check_first_stages() {
 
 template <int r>
 void check_skew_sums() {
-  const int M = 16, row = 2 * L;
+  const int M = 16, row = 2 * W;
   const SkewStep skew(r, M);
-  const std::vector<Sample> x = random_samples(r * M * L);
-  alignas(16) Sample in[r * M * L], out[r * M * row];
+  const std::vector<Sample> x = random_samples(r * M * W);
+  alignas(16) Sample in[r * M * W], out[r * M * row];
   std::copy(x.begin(), x.end(), in);
   EXPECT_EQ(env8_compute(skew.step, out, row, in), ZULG_OK);
   for (int q = 0; q < M * r / 2; ++q) {
     const bool conjugated = q % M >= M / 2;
     const int kappa = conjugated ? M - 1 - q % M : q % M, a = conjugated ? r - 1 - q / M : q / M;
-    for (int lane = 0; lane < L; ++lane) {
+    for (int lane = 0; lane < W; ++lane) {
       Value sum = 0;
       for (int rho = 0; rho < r; ++rho) {
-        const Sample* z = in + (2 * kappa * r + rho) * L + lane;
-        sum += Value(z[0], z[r * L]) * unit(2 * rho * ((kappa + 0.5L) / M + a) / r);
+        const Sample* z = in + (2 * kappa * r + rho) * W + lane;
+        sum += Value(z[0], z[r * W]) * unit(2 * rho * ((kappa + 0.5L) / M + a) / r);
       }
       const Sample* y = out + 2 * q * row + lane;
       expect_value(conjugated ? std::conj(sum) : sum, y[0], y[row], r);

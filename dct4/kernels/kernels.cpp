@@ -116,10 +116,11 @@ class Builder {
   Graph graph_;
 };
 
-gen::Body describe(const Row& row, gen::Precision precision) {
+gen::Body describe(const Row& row, gen::Precision precision, bool is_doubled) {
   const bool single = precision == gen::Precision::kSingle;
   const int lanes = lanes_of(precision);
   gen::Body body;
+  body.is_doubled = is_doubled;
   body.declared_in = "dct4/bodies.h";
   body.header = single ? "dct4_32f.h" : "dct4_64f.h";
   for (int radix : row.radices) {
@@ -129,7 +130,7 @@ gen::Body describe(const Row& row, gen::Precision precision) {
   const char* templates[] = {"FirstStage", "SkewSum", "SecondStage", "BaseCase"};
   const bool is_scalar = row.kind == Kind::kBaseCase;
   body.name = gen::specialisation(templates[static_cast<int>(row.kind)], precision,
-                                  is_scalar ? 1 : lanes, row.size);
+                                  is_scalar ? 1 : (is_doubled ? 2 : 1) * lanes, row.size);
   if (!is_scalar) body.accessors = {"x"};
   if (row.kind == Kind::kSkewSum || row.kind == Kind::kSecondStage) body.accessors.push_back("w");
   if (row.kind == Kind::kSkewSum && row.size > 8) body.accessors.push_back("v");
@@ -144,10 +145,15 @@ gen::Graph graph(const Row& row, gen::Precision precision) {
   return Builder(row, precision).build();
 }
 
-std::vector<gen::Body> bodies() {
+std::vector<gen::Body> bodies(int vector_bits) {
+  const bool is_wide = vector_bits == 256;
   std::vector<gen::Body> result;
   for (const gen::Precision precision : {gen::Precision::kSingle, gen::Precision::kDouble}) {
-    for (const Row& row : kRows) result.push_back(describe(row, precision));
+    for (const Row& row : kRows) {
+      // Nothing is left over within splits.
+      if (!is_wide || row.kind != Kind::kSkewSum) result.push_back(describe(row, precision, false));
+      if (is_wide && row.kind != Kind::kBaseCase) result.push_back(describe(row, precision, true));
+    }
   }
   return result;
 }

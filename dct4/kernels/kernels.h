@@ -27,8 +27,9 @@ extern const std::vector<Row> kRows;
 // The data flow, with all lanes of a vector taking part in the same operations.
 gen::Graph graph(const Row& row, gen::Precision precision);
 
-// All kernels in both precisions, as dct4/bodies.h declares them.
-std::vector<gen::Body> bodies();
+// All kernels in both precisions, as dct4/bodies.h declares them. In vectors of 256 bits they are
+// those of 128 bits, two side by side; for what is left over, 128 bits are there too.
+std::vector<gen::Body> bodies(int vector_bits);
 
 // The exported functions.
 std::vector<std::string> entries();

@@ -21,30 +21,32 @@ constexpr Row kRows[] = {
     {Kind::kRow, kDouble, 7},     {Kind::kColumn, kDouble, 8},  {Kind::kColumn, kDouble, 16},
 };
 
-gen::Body describe(const Row& row) {
+gen::Body describe(const Row& row, int vector_bits) {
   const bool is_row = row.kind == Kind::kRow;
   gen::Body body;
   body.name = gen::specialisation(is_row ? "RowTransform" : "ColumnTransform", row.precision,
-                                  lanes_of(row.precision), row.size);
+                                  lanes_of(row.precision, vector_bits), row.size);
   body.declared_in = "wht/passes.h";
   body.header = "wht_bodies.h";
   body.accessors = {"x"};
   if (is_row) {
     body.recipe = "stages 0 to " + std::to_string(row.size - 1);
     body.source_elements = 1 << row.size;
-    body.loads_halves = true;
+    body.loads_halves = vector_bits == 128;
   } else {
     body.recipe = "stages between rows";
   }
-  body.graph = [=] { return (is_row ? row_graph : column_graph)(row.precision, row.size); };
+  body.graph = [=] {
+    return (is_row ? row_graph : column_graph)(row.precision, row.size, vector_bits);
+  };
   return body;
 }
 
 }  // namespace
 
-std::vector<gen::Body> bodies() {
+std::vector<gen::Body> bodies(int vector_bits) {
   std::vector<gen::Body> result;
-  for (const Row& row : kRows) result.push_back(describe(row));
+  for (const Row& row : kRows) result.push_back(describe(row, vector_bits));
   return result;
 }
 

@@ -35,7 +35,10 @@ Kernel kernel(Precision precision, int order) {
   } else {
     kernel.recipe = recipe(single ? plan_of<float>(order) : plan_of<double>(order));
   }
-  kernel.graph = [precision, order] { return kernel_graph(precision, order); };
+  kernel.graph = [=] { return kernel_graph(precision, order, 128); };
+  if (!is_scalar(precision, order)) {
+    kernel.wide_graph = [=] { return kernel_graph(precision, order, 256); };
+  }
   return kernel;
 }
 
