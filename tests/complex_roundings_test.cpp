@@ -12,8 +12,8 @@ using networks::Tree;
 using namespace scalar_model;
 
 bool is_laid_down(const Tree& tree) {
-  bool all = tree.kind != Tree::Kind::kLeaf || tree.length <= 5 || tree.length == 7 ||
-             tree.length == 11;
+  bool all =
+      tree.kind != Tree::Kind::kLeaf || tree.length <= 5 || tree.length == 7 || tree.length == 11;
   for (const Tree& part : tree.parts) all = all && is_laid_down(part);
   return all;
 }
@@ -59,11 +59,12 @@ TEST(ComplexRoundings, AreThoseLaidDown) {
     const bool single = kernel.name.ends_with("_32fc"), direct = n == 7 || n == 11;
     if (row == table.end() && (single || !direct)) continue;
     // 35 has a block of 7 in Rader's form.
-    const Tree tree = networks::parse_tree(direct ? std::to_string(n) : row->second[single ? 0 : 3]);
+    const Tree tree =
+        networks::parse_tree(direct ? std::to_string(n) : row->second[single ? 0 : 3]);
     if (!is_laid_down(tree) || (n == 35 && !single)) continue;
     const GraphRuns graph(kernel);
-    const auto by_hand = !single              ? double_by_hand
-                         : n == 3 || n == 5   ? single_by_hand<Real<float, double>>
+    const auto by_hand = !single            ? double_by_hand
+                         : n == 3 || n == 5 ? single_by_hand<Real<float, double>>
                                             : single_by_hand<Real<float>>;
     for (const unsigned seed : {1, 2, 3}) {
       const std::vector<double> x = make_input(graph.shape(), harness::Data::kUniform, seed);

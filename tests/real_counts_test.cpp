@@ -75,8 +75,8 @@ std::string applied_blocks(const Graph& graph, int n, bool forward) {
   const std::vector<SampleSet> places = single_places(n);
   const bool rader = networks::is_prime(n) && n > 11;
   std::string blocks;
-  for (const int block : complete_cosets(rader ? permuted(places) : places,
-                                         sample_sets(graph, !forward, 1))) {
+  for (const int block :
+       complete_cosets(rader ? permuted(places) : places, sample_sets(graph, !forward, 1))) {
     blocks += (blocks.empty() ? "" : " ") + std::to_string(block);
   }
   return blocks;

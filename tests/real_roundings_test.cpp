@@ -114,9 +114,9 @@ TEST(RealRoundings, OfForwardLeaves) {
 }
 
 TEST(RealRoundings, OfTwoStages) {
-  const std::pair<int, int> stages[] = {{2, 3}, {2, 5}, {3, 4},  {7, 2},  {5, 3}, {4, 5},
-                                        {3, 7}, {11, 2}, {3, 11}, {5, 7}, {4, 11}, {5, 11},
-                                        {4, 2}, {3, 3}, {5, 5}};
+  const std::pair<int, int> stages[] = {{2, 3},  {2, 5},  {3, 4},  {7, 2},  {5, 3},
+                                        {4, 5},  {3, 7},  {11, 2}, {3, 11}, {5, 7},
+                                        {4, 11}, {5, 11}, {4, 2},  {3, 3},  {5, 5}};
   for (const auto& [p, q] : stages) {
     const int n = p * q;
     const std::string name = "zulgDFTFwd_RToPack_" + std::to_string(n) + "_64f";
@@ -144,7 +144,8 @@ void expect_inverse_leaves(const std::string& type) {
     if (n % 2 == 0) {
       const R last = {source[n - 1]};
       const R p = re[0] + last, d = re[0] - last;
-      y = n == 2 ? std::vector<R>{p, d} : std::vector<R>{p + re[1], d - im[1], p - re[1], d + im[1]};
+      y = n == 2 ? std::vector<R>{p, d}
+                 : std::vector<R>{p + re[1], d - im[1], p - re[1], d + im[1]};
     } else {
       R sum = re[h];
       for (int k = h - 1; k > 0; --k) sum = sum + re[k];

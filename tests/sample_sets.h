@@ -1,5 +1,5 @@
-// Which samples the values of a data flow depend on, or feed: it shows in which order the factors of
-// a length are applied.
+// Which samples the values of a data flow depend on, or feed: it shows in which order the factors
+// of a length are applied.
 #pragma once
 
 #include <array>

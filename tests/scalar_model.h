@@ -115,8 +115,8 @@ using networks::Tree;
 // Sees nothing.
 inline constexpr auto kNobody = [](const auto&...) {};
 
-// A block of complex samples by its tree, with root exp(-2 pi i e / length). `visit(tree, x, y)` sees
-// what goes into every block and what comes out.
+// A block of complex samples by its tree, with root exp(-2 pi i e / length). `visit(tree, x, y)`
+// sees what goes into every block and what comes out.
 template <class R, class Visit>
 std::vector<Sample<R>> whole(const Tree& tree, const std::vector<Sample<R>>& x, int e,
                              Visit visit) {

@@ -1,5 +1,5 @@
-// What stands between the stages of the complex kernels: the values of every split of the trees that
-// are laid down, those of the forms of prime lengths, and the order of their blocks.
+// What stands between the stages of the complex kernels: the values of every split of the trees
+// that are laid down, those of the forms of prime lengths, and the order of their blocks.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -119,9 +119,9 @@ TEST(Stages, OfCompositeLengths) {
   for (const gen::Kernel& kernel : kernels(composites())) {
     const Block x = input_of(kernel);
     // The two real sequences are transformed before the direction is chosen.
-    const Block values = stage_values(tree_of(kernel, kernel.length()), x,
-                                      kernel.is_single() ? exponent_of(kernel) : 1,
-                                      kernel.is_single());
+    const Block values =
+        stage_values(tree_of(kernel, kernel.length()), x,
+                     kernel.is_single() ? exponent_of(kernel) : 1, kernel.is_single());
     EXPECT_EQ(KernelRun(kernel, x).count_missing(values), 0) << kernel.name;
   }
 }
