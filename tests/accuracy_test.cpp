@@ -78,12 +78,12 @@ TEST(Kernels, AreAccurate) {
 }
 
 // In Rader's form x[0] reaches every other bin through one addition, and the direct forms add it as
-// it stands: an impulse there comes out unrounded. A constant cancels only up to rounding.
-TEST(Kernels, KnowImpulsesAndConstants) {
+// it stands: an impulse there comes out unrounded.
+TEST(Kernels, KnowImpulses) {
   for (const gen::Kernel& kernel : generate::all_kernels()) {
     if (kernel.transform != gen::Transform::kComplexDft) continue;
     const GraphRuns graph(kernel);
-    const double u = kernel.is_single() ? 0x1p-24 : 0x1p-53, n = kernel.length();
+    const double u = kernel.is_single() ? 0x1p-24 : 0x1p-53;
     const double tolerance = kernel.recipe.starts_with("chirp") ? 8 * u : 0;
     std::vector<double> source(2 * kernel.length()), destination;
     source[0] = 1;
@@ -91,12 +91,6 @@ TEST(Kernels, KnowImpulsesAndConstants) {
     for (int k = 0; k < kernel.length(); ++k) {
       EXPECT_NEAR(destination[2 * k], 1, tolerance) << kernel.name << " " << k;
       EXPECT_NEAR(destination[2 * k + 1], 0, tolerance) << kernel.name << " " << k;
-    }
-    for (int i = 0; i < kernel.length(); ++i) source[2 * i] = 0.75;
-    destination = graph.run(source, ZULG_SCALE_NONE);
-    EXPECT_NEAR(destination[0], 0.75 * n, 4 * n * u) << kernel.name;
-    for (std::size_t i = 1; i < destination.size(); ++i) {
-      EXPECT_NEAR(destination[i], 0, 4 * n * u) << kernel.name;
     }
   }
 }

@@ -1,9 +1,10 @@
-// The entries that take a length against the kernels that they pass it on to.
+// The entries that take a length against the kernels that they pass it on to; the version record.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <cmath>
+#include <cstring>
 #include <map>
 
 #include "tests/harness/subject.h"
@@ -107,5 +108,18 @@ TEST(ScaleFactors, AreComputedInDouble) {
 
 INSTANTIATE_TEST_SUITE_P(Manifest, DispatchEntry, testing::ValuesIn(contents().entries),
                          [](const auto& info) { return info.param.name; });
+
+TEST(Version, IsTheOneRecord) {
+  const zulgLibVersion* version = zulgenGetLibVersion();
+  EXPECT_EQ(version, zulgenGetLibVersion());
+  EXPECT_EQ(version->major, 6);
+  EXPECT_EQ(version->minor, 1);
+  EXPECT_EQ(version->majorBuild, 137);
+  EXPECT_EQ(version->build, 336);
+  EXPECT_EQ(std::memcmp(version->targetCode, "s8\0\0", 4), 0);
+  EXPECT_STREQ(version->name, "libzulgens8.so.6.1");
+  EXPECT_STREQ(version->version, "6.1 build 137.56");
+  EXPECT_STREQ(version->buildDate, "Mar 17 2010");
+}
 
 }  // namespace

@@ -1,26 +1,11 @@
 #include "gen/number.h"
 
 #include <gtest/gtest.h>
-#include <quadmath.h>
 
 namespace {
 
 using gen::Number;
 using gen::Quad;
-
-TEST(Number, AnglesAgreeWithTheSystemsQuadTrigonometry) {
-  for (long denominator = 1; denominator <= 130; ++denominator) {
-    for (long numerator = -denominator; numerator <= 2 * denominator; ++numerator) {
-      const Quad angle = 2 * M_PIq * numerator / denominator;
-      // Both sides are within an ulp or two; the angle itself adds its own rounding.
-      const Quad tolerance = 40 * FLT128_EPSILON;
-      const Quad c = gen::cos_of_turn(numerator, denominator).value();
-      const Quad s = gen::sin_of_turn(numerator, denominator).value();
-      ASSERT_LT(fabsq(c - cosq(angle)), tolerance) << numerator << "/" << denominator;
-      ASSERT_LT(fabsq(s - sinq(angle)), tolerance) << numerator << "/" << denominator;
-    }
-  }
-}
 
 // Products are shared only if equal magnitudes are equal bit for bit.
 TEST(Number, EqualMagnitudesAreTheSameConstant) {

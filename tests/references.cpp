@@ -1,79 +1,19 @@
 #include "tests/references.h"
 
-#include <quadmath.h>
-
 #include <stdexcept>
 
 #include "networks/walsh_hadamard.h"
+#include "tests/quad_dft.h"
 
 namespace references {
 namespace {
 
 using gen::Quad;
-using Values = std::vector<Quad>;
 using Source = std::vector<double>;
 
-// cos and sin of 2 pi i / n for i = 0..n - 1.
-struct Circle {
-  Values cosine, sine;
-
-  explicit Circle(int n) : cosine(n), sine(n) {
-    for (int i = 0; i < n; ++i) {
-      cosine[i] = cosq(2 * M_PIq * i / n);
-      sine[i] = sinq(2 * M_PIq * i / n);
-    }
-  }
-};
-
-Values complex_dft(int n, const Circle& circle, int sign, const Source& x) {
-  Values y(2 * n);
-  for (int k = 0; k < n; ++k) {
-    for (int j = 0; j < n; ++j) {
-      const Quad re = circle.cosine[j * k % n], im = sign * circle.sine[j * k % n];
-      y[2 * k] += x[2 * j] * re - x[2 * j + 1] * im;
-      y[2 * k + 1] += x[2 * j] * im + x[2 * j + 1] * re;
-    }
-  }
-  return y;
-}
-
-Values real_dft(int n, const Circle& circle, const Source& x) {
-  Values y(n / 2 * 2 + 2);
-  for (int k = 0; k <= n / 2; ++k) {
-    for (int j = 0; j < n; ++j) {
-      y[2 * k] += x[j] * circle.cosine[j * k % n];
-      y[2 * k + 1] -= x[j] * circle.sine[j * k % n];
-    }
-  }
-  y[1] = 0;
-  if (n % 2 == 0) y[n + 1] = 0;
-  return y;
-}
-
-Values inverse_real_dft(int n, const Circle& circle, const Source& x) {
-  Values y(n);
-  for (int j = 0; j < n; ++j) {
-    y[j] = x[0];
-    for (int k = 1; k <= n / 2; ++k) {
-      const Quad re = x[2 * k] * circle.cosine[j * k % n];
-      const Quad im = 2 * k == n ? Quad(0) : x[2 * k + 1] * circle.sine[j * k % n];
-      y[j] += (2 * k == n ? 1 : 2) * (re - im);
-    }
-  }
-  return y;
-}
-
-Values hartley(int n, const Circle& circle, const Source& x) {
-  Values y(n);
-  for (int k = 0; k < n; ++k) {
-    for (int j = 0; j < n; ++j) y[k] += x[j] * (circle.cosine[j * k % n] + circle.sine[j * k % n]);
-  }
-  return y;
-}
-
 // By its fast algorithm: the definition would take too long, and has a test of its own.
-Values walsh_hadamard(const Source& x) {
-  return networks::walsh_hadamard(Values(x.begin(), x.end()));
+std::vector<Quad> walsh_hadamard(const Source& x) {
+  return networks::walsh_hadamard(std::vector<Quad>(x.begin(), x.end()));
 }
 
 }  // namespace
@@ -81,20 +21,37 @@ Values walsh_hadamard(const Source& x) {
 Reference of(const gen::Kernel& kernel) {
   const int n = kernel.length();
   const bool forward = kernel.direction == gen::Direction::kForward;
-  const Circle circle(kernel.transform == gen::Transform::kWalshHadamard ? 0 : n);
-  switch (kernel.transform) {
-    case gen::Transform::kComplexDft:
-      return [=](const Source& x) { return complex_dft(n, circle, forward ? -1 : 1, x); };
-    case gen::Transform::kRealDft:
-      if (kernel.layout != gen::Layout::kCcs) break;
-      if (forward) return [=](const Source& x) { return real_dft(n, circle, x); };
-      return [=](const Source& x) { return inverse_real_dft(n, circle, x); };
-    case gen::Transform::kHartley:
-      return [=](const Source& x) { return hartley(n, circle, x); };
-    case gen::Transform::kWalshHadamard:
-      return walsh_hadamard;
+  const bool is_complex = kernel.transform == gen::Transform::kComplexDft;
+  const bool is_real = kernel.transform == gen::Transform::kRealDft;
+  if (kernel.transform == gen::Transform::kWalshHadamard) return walsh_hadamard;
+  if (is_real && kernel.layout != gen::Layout::kCcs) {
+    throw std::invalid_argument("no definition of " + kernel.name);
   }
-  throw std::invalid_argument("no definition of " + kernel.name);
+  Block circle;
+  for (int k = 0; k < n; ++k) circle.push_back(unit_root(is_complex && !forward ? -k : k, n));
+  // What element j adds to element i. Elements of complex samples are their parts in turn.
+  const auto coefficient = [&](int i, int j) -> Quad {
+    const int parts_of_i = is_complex || (is_real && forward) ? 2 : 1;
+    const int parts_of_j = is_complex || (is_real && !forward) ? 2 : 1;
+    const auto& root = circle[i / parts_of_i * (j / parts_of_j) % n];
+    const bool to_im = i % parts_of_i == 1, from_im = j % parts_of_j == 1;
+    if (is_complex) return to_im == from_im ? root.re : to_im ? root.im : -root.im;
+    if (!is_real) return root.re - root.im;
+    const bool stands_alone = j / 2 == 0 || j / 2 * 2 == n;  // of an inverse transform's bins
+    if (stands_alone && from_im) return 0;
+    return (forward || stands_alone ? 1 : 2) * (to_im || from_im ? root.im : root.re);
+  };
+  std::vector<std::vector<Quad>> rows(kernel.destination_elements);
+  for (int i = 0; i < kernel.destination_elements; ++i) {
+    for (int j = 0; j < kernel.source_elements; ++j) rows[i].push_back(coefficient(i, j));
+  }
+  return [rows](const Source& x) {
+    std::vector<Quad> y(rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      for (std::size_t j = 0; j < x.size(); ++j) y[i] += rows[i][j] * x[j];
+    }
+    return y;
+  };
 }
 
 }  // namespace references

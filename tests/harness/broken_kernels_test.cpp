@@ -94,6 +94,10 @@ KERNEL(leaves_x87_value, {
   correct(x, y, s);
   asm volatile("fld1");
 })
+zulgResult scales_as_inverse(const void* source, void* destination, zulgScaleFlag flag,
+                             void* work) {
+  return good(source, destination, flag <= 2 ? 3 - flag : flag, work);
+}
 zulgResult takes_null_as_ok(const void* source, void* destination, zulgScaleFlag flag, void* work) {
   return source == nullptr ? ZULG_OK : good(source, destination, flag, work);
 }
@@ -136,7 +140,7 @@ TEST(Harness, PassesACorrectKernel) {
   const Subject subject = subject_of(good);
   EXPECT_EQ(digest_of_results(subject), read_digests(DIGESTS).at(subject.name));
   for (const auto check :
-       {check_alignment, check_memory, check_arguments, check_calling_convention}) {
+       {check_scale, check_alignment, check_memory, check_arguments, check_calling_convention}) {
     EXPECT_EQ(check(subject), Findings{});
   }
 }
@@ -151,6 +155,7 @@ TEST(Harness, FindsEveryBrokenKernel) {
       {"wrong_last_bit", wrong_last_bit, check_bits},
       {"ignores_scale", ignores_scale, check_bits},
       {"loses_minus_zero", loses_minus_zero, check_bits},
+      {"scales_as_inverse", scales_as_inverse, check_scale},
       {"writes_too_early", writes_too_early, check_alignment},
       {"rounds_by_alignment", rounds_by_alignment, check_alignment},
       {"reads_behind", reads_behind, check_memory},

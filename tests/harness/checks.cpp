@@ -1,5 +1,6 @@
 #include "tests/harness/checks.h"
 
+#include <cmath>
 #include <cstdint>
 #include <iterator>
 
@@ -73,6 +74,31 @@ std::string digest_of_results(const Subject& subject) {
 Findings check_bits(const Subject& subject, const std::string& digest) {
   if (digest_of_results(subject) == digest) return {};
   return {"not the bits of its data flow"};
+}
+
+Findings check_scale(const Subject& subject) {
+  Findings findings;
+  const std::string& name = subject.name;
+  const auto is = [&](const char* part) { return name.find(part) != std::string::npos; };
+  const int number = std::stoi(name.substr(name.find_first_of("0123456789")));
+  const double n = is("WHT") ? std::ldexp(1, number) : number;
+  const std::vector<double> input = make_input(subject, Data::kUniform, 5);
+  const std::vector<double> unscaled = run(subject, input, ZULG_SCALE_NONE);
+  // The factor, the product and the unscaled value are rounded.
+  const double tolerance = 3 * (subject.is_single() ? 0x1.01p-24 : 0x1.01p-53);
+  for (const zulgScaleFlag flag : kFlags) {
+    const bool by_n = (flag == ZULG_SCALE_FWD_BY_N && !is("Inv_")) ||
+                      (flag == ZULG_SCALE_INV_BY_N && !is("Fwd_"));
+    const double factor = flag == ZULG_SCALE_BY_SQRT_N ? 1 / std::sqrt(n) : by_n ? 1 / n : 1;
+    const std::vector<double> scaled = run(subject, input, flag);
+    for (std::size_t i = 0; i < scaled.size(); ++i) {
+      const double wanted = factor * unscaled[i];
+      if (std::abs(scaled[i] - wanted) <= tolerance * std::abs(wanted)) continue;
+      findings.push_back("another factor under flag " + std::to_string(flag));
+      break;
+    }
+  }
+  return findings;
 }
 
 Findings check_alignment(const Subject& subject) {

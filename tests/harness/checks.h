@@ -14,6 +14,9 @@ std::string digest_of_results(const Subject& subject);
 // Equal to the digest of what it should compute.
 Findings check_bits(const Subject& subject, const std::string& digest);
 
+// Scaled as the name and the flag say.
+Findings check_scale(const Subject& subject);
+
 // The same bits whatever the alignment of either array, and with one array for both.
 Findings check_alignment(const Subject& subject);
 

@@ -23,6 +23,7 @@ Findings all_findings(const Subject& subject, const std::string& digest) {
   if (subject.function == nullptr) return {"missing"};
   const std::pair<const char*, std::function<Findings()>> checks[] = {
       {"bits", [&] { return check_bits(subject, digest); }},
+      {"scale", [&] { return check_scale(subject); }},
       {"alignment", [&] { return check_alignment(subject); }},
       {"memory", [&] { return check_memory(subject); }},
       {"arguments", [&] { return check_arguments(subject); }},
