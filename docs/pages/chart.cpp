@@ -8,7 +8,7 @@
 namespace pages {
 namespace {
 
-constexpr double kWidth = 560, kHeight = 280, kLeft = 46, kRight = 10, kTop = 10, kBottom = 34;
+constexpr double kWidth = 560, kHeight = 280, kLeft = 62, kRight = 10, kTop = 10, kBottom = 34;
 constexpr int kFirstLength = 2, kLastLength = 64;
 
 std::string number(double value) {

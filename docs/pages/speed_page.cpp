@@ -10,8 +10,7 @@ std::string cycles_chart(const Figures& figures, const Architecture& architectur
                          const Group& group) {
   std::vector<std::string> columns = architecture.levels;
   columns.insert(columns.end(), {"fftw", "kissfft"});
-  Chart chart = {
-      group.transform + ", " + title(group.precision) + " precision", "cycles", true, 1, 0, {}};
+  Chart chart = {"Core cycles a call", "cycles", true, 1, 0, {}};
   for (const std::string& column : columns) {
     Series& series = chart.series.emplace_back(Series{column_title(column), {}});
     for (const auto& [length, function] : group.functions) {
@@ -46,7 +45,7 @@ std::string speed_page(const Catalogue& catalogue, const Architecture& architect
                   "href=\"" +
                   std::string(kReadingPageName) + "#figures\">What the figures mean</a></p>\n" +
                   speed_summary(catalogue, architecture) + kNotMeasuredNote +
-                  "<h2>Core cycles a call</h2>\n<div class=\"charts\">\n" + sections + "</div>\n");
+                  "<h2>Against length</h2>\n<div class=\"charts\">\n" + sections + "</div>\n");
 }
 
 }  // namespace pages
