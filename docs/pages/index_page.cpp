@@ -102,8 +102,10 @@ std::string length_table(const Catalogue& catalogue, Precision precision) {
   }
   return "<h3 id=\"" + title(precision) + "\">" +
          (precision == Precision::kSingle ? "Single precision" : "Double precision") + "</h3>\n" +
+         "<div class=\"dense\">" +
          table("All lengths, " + title(precision) + " precision", head + "</tr>" + second + "</tr>",
-               rows);
+               rows) +
+         "</div>\n";
 }
 
 }  // namespace

@@ -37,8 +37,8 @@ const std::vector<Term> kTrees = {
      "1 that leads there, t the one that leads back."},
     {"chirp(t)",
      "A whole complex transform as a convolution with a chirp (Bluestein), by transforms t of a "
-     "convenient length above 2 p. Cheaper than Rader’s form at 47 and 59 in single precision."},
-    {"5w", "The short form of 5 on real data (Winograd): fewer multiplications."},
+     "convenient length above 2 p. Taken at 47 and 59 in single precision."},
+    {"5w", "The short form of 5 on real data, with fewer multiplications."},
     {"4s", "Radix-2 steps with a rotation each."},
     {"3n", "By definition."},
     {"by(s, t, u)",

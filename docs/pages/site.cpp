@@ -10,7 +10,7 @@ std::string speed_page_name(const Architecture& architecture) {
 }
 
 std::string manual_page(const std::string& markdown) {
-  return page("zulgen: manual", markdown_body(markdown));
+  return page("zulgen: manual", "<div class=\"prose\">\n" + markdown_body(markdown) + "</div>\n");
 }
 
 std::string page(const std::string& title, const std::string& body, const std::string& script) {
