@@ -46,6 +46,7 @@ machine() {
   echo "cores: $(nproc)"
   echo "system: Linux $(uname -r | cut -d. -f1-2) $(uname -m)"
   echo "compiler: $($(cached CMAKE_CXX_COMPILER) --version | head -n 1)"
+  echo "plans of FFTW: $plans"
   for architecture in $all; do
     debian=$([ "$architecture" = i386 ] && echo i386 || echo amd64)
     echo "peers, $architecture: FFTW $(version libfftw3-single3 "$debian")," \

@@ -338,7 +338,7 @@ TEST(Site, ExplainsItsNotation) {
   for (const auto& [length, entries] : catalogue().by_length) {
     for (const auto& [key, entry] : entries) {
       if (key.first == Transform::kHartley) continue;  // says in words what it is
-      const std::string text = entry.kernel.recipe + " " + to_string(entry.written[0].order);
+      const std::string text = entry.kernel.recipe + " " + entry.written[0].order;
       for (std::sregex_iterator at(text.begin(), text.end(), word), end; at != end; ++at) {
         words.insert(at->str());
       }

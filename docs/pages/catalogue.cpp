@@ -36,7 +36,7 @@ std::vector<Written> written(const gen::Kernel& kernel, const gen::Graph& graph,
       count_vector_operations(lowered(graph, kernel.source_elements, kernel.loads_halves));
   std::vector<Written> result;
   for (const generate::Target& target : targets) {
-    result.push_back({target.name, operations, target.order_of(kernel)});
+    result.push_back({target.name, operations, to_string(target.order_of(kernel))});
   }
   return result;
 }

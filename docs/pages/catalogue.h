@@ -35,7 +35,7 @@ std::string title(gen::Precision precision);
 struct Written {
   std::string target;
   gen::VectorOperations operations;
-  gen::Order order;
+  std::string order;
 };
 
 struct Entry {

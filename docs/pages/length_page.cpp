@@ -34,7 +34,7 @@ std::string instruction_table(const std::map<Key, Entry>& entries) {
       const gen::VectorOperations& operations = written.operations;
       rows += table_row(
           {&written == &entry.written.front() ? code(entry) : "", written.target,
-           to_string(written.order)},
+           written.order},
           {std::to_string(operations.additions), std::to_string(operations.multiplications),
            std::to_string(operations.moves), std::to_string(operations.sign_flips),
            std::to_string(operations.conversions)});
