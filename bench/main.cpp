@@ -13,13 +13,15 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: zulgen-bench [--filter TEXT[,TEXT...]] [--plans N] [--rounds N] [--offset N]\n"
-    "                    [--csv FILE]\n"
+    "                    [--csv FILE] [--list]\n"
     "  --filter TEXT  functions whose name holds one of the texts (default: Fwd_CToC); with _N_\n"
     "                 for a length, those of that length\n"
     "  --plans N      FFTW plans to take the best of (default 4); 0 times our functions alone\n"
     "  --rounds N     samples of each in a pass (default 150)\n"
     "  --offset N     our arrays begin N elements behind a cache line (default 0)\n"
-    "  --csv FILE     the figures as comma-separated values, too\n";
+    "  --csv FILE     the figures as comma-separated values, too: nothing for a figure that could\n"
+    "                 not be taken, - for a transform that the peer doesn't have\n"
+    "  --list         only tell the functions' names\n";
 
 struct Options {
   std::string filter = "Fwd_CToC";
@@ -27,6 +29,7 @@ struct Options {
   int rounds = 150;
   int offset = 0;
   std::string csv;
+  bool list = false;
 };
 
 // Whether the name holds one of the texts between the filter's commas.
@@ -38,13 +41,18 @@ bool passes(const std::string& name, const std::string& filter) {
   return false;
 }
 
-using Figure = std::optional<double>;  // cycles a call
+using Cycles = std::optional<double>;  // of a call
 
-// The least of some figures.
-Figure best(const Figure* begin, const Figure* end) {
-  Figure result;
-  for (const Figure* figure = begin; figure != end; ++figure) {
-    if (*figure && (!result || **figure < *result)) result = *figure;
+struct Figure {
+  bool is_possible = false;  // whether the column's library has the transform
+  Cycles cycles;             // nothing if other work disturbed it
+};
+
+// The best of some ways of computing the same.
+Figure best(const Cycles* begin, const Cycles* end) {
+  Figure result = {begin != end, {}};
+  for (const Cycles* way = begin; way != end; ++way) {
+    if (*way && (!result.cycles || **way < *result.cycles)) result.cycles = *way;
   }
   return result;
 }
@@ -55,10 +63,11 @@ std::vector<Figure> measure(const bench::Clock& clock, const bench::Subject& sub
                             const std::vector<std::unique_ptr<bench::Peer>>& peers) {
   static bench::Arrays arrays;
   std::vector<bench::Contender> contenders;
+  std::vector<std::size_t> ends = {0};  // of the columns' contenders
   for (const bench::Level& level : levels) {
     contenders.push_back(calls_of(subject, level, arrays, options.offset));
+    ends.push_back(contenders.size());
   }
-  std::vector<std::size_t> ends = {contenders.size()};
   for (const auto& peer : peers) {
     for (bench::Contender& way : peer->ways(subject, arrays)) contenders.push_back(std::move(way));
     ends.push_back(contenders.size());
@@ -67,9 +76,9 @@ std::vector<Figure> measure(const bench::Clock& clock, const bench::Subject& sub
   // stay what they are; anything else grows to infinities, which cost x87 code dearly.
   const bool plans_may_destroy = subject.transform == "real" && subject.direction == "inverse";
   plans_may_destroy ? arrays.clear() : arrays.fill(subject);
-  const std::vector<Figure> cycles = cycles_per_call(clock, contenders, options.rounds);
-  std::vector<Figure> figures(cycles.begin(), cycles.begin() + levels.size());
-  for (std::size_t i = 0; i < peers.size(); ++i) {
+  const std::vector<Cycles> cycles = cycles_per_call(clock, contenders, options.rounds);
+  std::vector<Figure> figures;
+  for (std::size_t i = 0; i + 1 < ends.size(); ++i) {
     figures.push_back(best(cycles.data() + ends[i], cycles.data() + ends[i + 1]));
   }
   return figures;
@@ -90,10 +99,11 @@ struct Summary {
   }
 };
 
-std::string text_of(const Figure& figure) {
+std::string text_of(const Figure& figure, const char* disturbed) {
   char text[32];
-  if (!figure) return "";
-  std::snprintf(text, sizeof text, "%.1f", *figure);
+  if (!figure.is_possible) return "-";
+  if (!figure.cycles) return disturbed;
+  std::snprintf(text, sizeof text, "%.1f", *figure.cycles);
   return text;
 }
 
@@ -104,6 +114,10 @@ int run(const Options& options) {
   if (subjects.empty()) {
     std::fprintf(stderr, "zulgen-bench: nothing is called %s\n", options.filter.c_str());
     return 2;
+  }
+  if (options.list) {
+    for (const bench::Subject& subject : subjects) std::puts(subject.name.c_str());
+    return 0;
   }
   const bench::Clock clock;
   const std::vector<bench::Level> levels = bench::levels();
@@ -141,19 +155,18 @@ int run(const Options& options) {
     const std::vector<Figure> figures = measure(clock, subject, options, levels, peers);
     std::printf("%-28s %9.1f", subject.name.c_str(), subject.port_bound);
     if (csv) std::fprintf(csv, "%s,%d", subject.name.c_str(), subject.length);
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-      const bool disturbed = i < levels.size() && !figures[i];
-      given_up += disturbed;
-      std::printf(" %11s", disturbed ? "disturbed" : text_of(figures[i]).c_str());
-      if (csv) std::fprintf(csv, ",%s", text_of(figures[i]).c_str());
+    for (const Figure& figure : figures) {
+      given_up += figure.is_possible && !figure.cycles;
+      std::printf(" %11s", text_of(figure, "disturbed").c_str());
+      if (csv) std::fprintf(csv, ",%s", text_of(figure, "").c_str());
     }
     std::printf("\n");
     std::fflush(stdout);
     if (csv) std::fprintf(csv, "\n");
     for (std::size_t level = 0; level < levels.size(); ++level) {
       for (std::size_t peer = levels.size(); peer < figures.size(); ++peer) {
-        if (!figures[level] || !figures[peer]) continue;
-        summaries[{peer, level}].add(subject.name, *figures[peer] / *figures[level]);
+        if (!figures[level].cycles || !figures[peer].cycles) continue;
+        summaries[{peer, level}].add(subject.name, *figures[peer].cycles / *figures[level].cycles);
       }
     }
   }
@@ -175,9 +188,14 @@ int run(const Options& options) {
 
 int main(int argc, char** argv) {
   Options options;
-  for (int i = 1; i < argc; i += 2) {
+  for (int i = 1; i < argc; ++i) {
     const std::string option = argv[i];
     const char* value = i + 1 < argc ? argv[i + 1] : nullptr;
+    if (option == "--list") {
+      options.list = true;
+      continue;
+    }
+    ++i;
     if (value != nullptr && option == "--filter") {
       options.filter = value;
     } else if (value != nullptr && option == "--plans") {

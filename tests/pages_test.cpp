@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
 #include <random>
 #include <regex>
 #include <set>
@@ -10,8 +11,11 @@
 #include "docs/pages/chart.h"
 #include "docs/pages/decomposition.h"
 #include "docs/pages/layered_layout.h"
+#include "docs/pages/markdown.h"
+#include "docs/pages/prototypes.h"
 #include "docs/pages/site.h"
 #include "docs/pages/tables.h"
+#include "generate/manifest.h"
 
 namespace {
 
@@ -24,9 +28,12 @@ const Catalogue& catalogue() {
   static const Catalogue result = [] {
     Figures figures;
     figures.error[kMeasured] = 1.234;
-    figures.speed[kMeasured] = {98.76, 200.0, 2.025};
+    figures.cycles["x86-64"][kMeasured] = {
+        {"x86-64-v3", {98.76}}, {"fftw", {200.0}}, {"kissfft", {std::nullopt, false}}};
     figures.machine = {{"processor", "A & B"}};
-    return make_catalogue(figures);
+    const std::string targets = SOURCE_DIR "/targets/";
+    return make_catalogue(figures, {generate::read_target(targets + "x86-64", targets + "x86-64"),
+                                    generate::read_target(targets + "i386", targets + "i386")});
   }();
   return result;
 }
@@ -170,17 +177,38 @@ TEST(Decomposition, GoesDownToShortBlocks) {
 }
 
 TEST(Figures, AreReadByTheirColumnsNames) {
-  std::istringstream in("length,kernel,cycles\n12,a,3.5\n13,b,nan\n");
-  const std::vector<CsvRow> rows = read_csv(in, "speed.csv", {"kernel", "cycles"});
-  ASSERT_EQ(rows.size(), 2u);
-  EXPECT_EQ(rows[0].at("kernel"), "a");
-  EXPECT_EQ(number(rows[0].at("cycles")), 3.5);
-  EXPECT_EQ(number(rows[1].at("cycles")), std::nullopt);
-  for (const char* text : {"kernel\na\n", "kernel,cycles\na\n", "kernel,cycles\na,1,2\n", ""}) {
+  std::istringstream in("length,function,i386\n12,a,3.5\n13,b,\n14,c,-\n");
+  const std::vector<CsvRow> rows = read_csv(in, "i386.csv", {"function", "i386"});
+  ASSERT_EQ(rows.size(), 3u);
+  EXPECT_EQ(rows[0].at("function"), "a");
+  std::string text;
+  for (const CsvRow& row : rows) text += shown(figure_of(row.at("i386")), 2) + " ";
+  EXPECT_EQ(text, "3.50 n.&#160;m. – ");
+  for (const char* text : {"function\na\n", "function,i386\na\n", "function,i386\na,1,2\n", ""}) {
     std::istringstream bad(text);
-    EXPECT_THROW(read_csv(bad, "speed.csv", {"kernel", "cycles"}), std::runtime_error) << text;
+    EXPECT_THROW(read_csv(bad, "i386.csv", {"function", "i386"}), std::runtime_error) << text;
   }
-  for (const char* text : {"", "1.5x", "fast"}) EXPECT_THROW(number(text), std::runtime_error);
+  for (const char* text : {"0", "1.5x", "fast", "nan"}) {
+    EXPECT_THROW(figure_of(text), std::runtime_error) << text;
+  }
+}
+
+// What is checked in can be shown, and is of functions that there are.
+TEST(Figures, AreOfFunctionsThatThereAre) {
+  const Figures figures = read_figures(SOURCE_DIR "/docs/measured");
+  std::set<std::string> known;
+  for (const std::string& name : generate::exported_functions()) known.insert(name);
+  for (const Group& group : groups(catalogue())) {
+    for (const auto& [length, function] : group.functions) known.insert(function);
+  }
+  for (const auto& [architecture, rows] : figures.cycles) {
+    for (const auto& [function, row] : rows) {
+      const std::size_t plan = function.find("DCT4Init_");
+      const std::string name =
+          plan == std::string::npos ? function : std::string(function).erase(plan + 4, 4);
+      EXPECT_TRUE(known.contains(name)) << function;
+    }
+  }
 }
 
 TEST(Figures, AreSummedUpGeometrically) {
@@ -207,16 +235,28 @@ TEST(Chart, HasFewRoundTicksAroundItsValues) {
   EXPECT_EQ(chart_picture({"nothing", "u", false, 0, 0, {{"a", {}}}}), "");
 }
 
+std::string file(const std::string& name) {
+  std::ifstream in(SOURCE_DIR "/" + name);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
 // All pages by their file names.
 const std::map<std::string, std::string>& site() {
   static const std::map<std::string, std::string> result = [] {
-    std::map<std::string, std::string> files = {{"index.html", index_page(catalogue())},
-                                                {"style.css", ""}};
-    const std::string others = others_page(catalogue());
-    if (!others.empty()) files[kOthersPageName] = others;
+    std::map<std::string, std::string> files = {
+        {kIndexPageName, index_page(catalogue())},
+        {kOthersPageName, others_page(catalogue())},
+        {kFinderPageName, finder_page(catalogue(), prototypes_of(SOURCE_DIR "/include/zulgen"))},
+        {kReadingPageName, reading_page(catalogue().figures)},
+        {kManualPageName, manual_page(file("docs/manual.md"))},
+        {kFinderScriptName, ""},
+        {"style.css", ""}};
+    for (const Architecture& architecture : kArchitectures) {
+      files[speed_page_name(architecture)] = speed_page(catalogue(), architecture);
+    }
     for (const auto& [length, entries] : catalogue().by_length) {
-      const Picture flow = flow_of_length(catalogue(), length, "");
-      files[flow_picture_name(length)] = flow.svg;
+      const Flow flow = flow_of_length(catalogue(), length, "");
+      files[flow_picture_name(length)] = flow.picture.svg;
       files[length_page_name(length)] = length_page(catalogue(), length, flow);
     }
     return files;
@@ -255,12 +295,14 @@ TEST(Site, IsWellFormed) {
   const std::regex markup(
       "<(/?)([a-zA-Z0-9]+)((?: [a-zA-Z0-9-]+=\"[^\"<]*\")*)(/?)>|<!DOCTYPE html>|"
       "&(?:#[0-9]+|amp|lt|gt|quot);");
-  for (const char* name : {"index.html", "length-2.html", "length-39.html", "flow-8.svg"}) {
+  for (const char* name :
+       {"index.html", "speed-i386.html", "others.html", "reading.html", "manual.html",
+        "finder.html", "length-2.html", "length-39.html", "flow-8.svg"}) {
     const std::string& text = site().at(name);
     std::vector<std::string> open;
     for (std::sregex_iterator at(text.begin(), text.end(), markup), end; at != end; ++at) {
       const std::smatch& tag = *at;
-      if (!tag[2].matched || tag[4].length() > 0 || tag[2] == "meta") continue;
+      if (!tag[2].matched || tag[4].length() > 0) continue;
       if (tag[1].length() == 0) {
         open.push_back(tag[2]);
         continue;
@@ -277,14 +319,70 @@ TEST(Site, IsWellFormed) {
 
 TEST(Site, ShowsWhatWasMeasured) {
   const std::string& text = site().at("length-12.html");
-  const std::set<std::string> rows = matches(text, "<code>(zulg.*)</td></tr>");
-  EXPECT_EQ(rows.size(), 10u);
-  for (const std::string& row : rows) {
-    const std::string cells = std::regex_replace(row, std::regex("(?:<[^>]*>)+"), " ");
-    const bool is_measured = cells.starts_with(kMeasured);
-    EXPECT_TRUE(cells.ends_with(is_measured ? " 96 16 1.23 98.8 2.02" : " – – –")) << cells;
+  const std::string row = std::regex_replace(
+      *matches(text, ("<td><code>(" + kMeasured + ".*–.*)</td></tr>").c_str()).begin(),
+      std::regex("(?:<[^>]*>)+"), " ");
+  const std::string none = " n.&#160;m.";
+  EXPECT_EQ(row, kMeasured + none + " 98.8" + none + " 200.0 – 2.03" + none + " –");
+  EXPECT_NE(text.find(kMeasured + "</code></td><td class=\"n\">96</td><td class=\"n\">16</td>"
+                                  "<td class=\"n\">1.23</td>"),
+            std::string::npos);
+  EXPECT_NE(site().at("reading.html").find("A &amp; B"), std::string::npos);
+}
+
+// Everything that a tree or an order is written with is explained.
+TEST(Site, ExplainsItsNotation) {
+  const std::string& reading = site().at(kReadingPageName);
+  const std::regex word("[A-Za-z]+(?=\\()|[a-z]+(?= [0-9])|(?:[0-9])[a-z]");
+  std::set<std::string> words;
+  for (const auto& [length, entries] : catalogue().by_length) {
+    for (const auto& [key, entry] : entries) {
+      if (key.first == Transform::kHartley) continue;  // says in words what it is
+      const std::string text = entry.kernel.recipe + " " + entry.written[0].order;
+      for (std::sregex_iterator at(text.begin(), text.end(), word), end; at != end; ++at) {
+        words.insert(at->str());
+      }
+    }
   }
-  EXPECT_NE(site().at("index.html").find("A &amp; B"), std::string::npos);
+  for (const std::string& word : words) {
+    const bool is_leaf = std::isdigit(static_cast<unsigned char>(word[0]));
+    const std::regex explained(is_leaf ? "\\b[0-9]*" + word.substr(1) + "</dt>|[ ,]" +
+                                             word.substr(1) + "( is |,| and | are )"
+                                       : "<dt>[^<]*\\b" + word);
+    EXPECT_TRUE(std::regex_search(reading, explained)) << word;
+  }
+}
+
+TEST(Finder, HasEveryExportedFunction) {
+  const std::set<std::string> rows =
+      matches(site().at(kFinderPageName), "<tr data-[^>]*><td><code>(.*</a>\\(.*\\))</code></td>");
+  std::set<std::string> found;
+  for (const std::string& row : rows) {
+    const std::string prototype = std::regex_replace(row, std::regex("<[^>]*>"), "");
+    found.insert(*matches(prototype, "^(?:zulgResult|const zulgLibVersion\\*) (\\w+)\\(").begin());
+  }
+  const std::vector<std::string> exported = generate::exported_functions();
+  EXPECT_EQ(found, std::set(exported.begin(), exported.end()));
+}
+
+TEST(Prototypes, AreThoseOfTheHeaders) {
+  const auto found = prototypes_in(
+      "/* f(x); */\n#define DECLARE(name, sample) \\\n  int name(const sample* src)\n"
+      "DECLARE(zulg_a, float);\nDECLARE(zulg_b, double);\nconst char* zulg_c(int,\n  int);\n");
+  const std::map<std::string, std::string> wanted = {{"zulg_a", "int zulg_a(const float* src)"},
+                                                     {"zulg_b", "int zulg_b(const double* src)"},
+                                                     {"zulg_c", "const char* zulg_c(int, int)"}};
+  EXPECT_EQ(found, wanted);
+}
+
+TEST(Markdown, BecomesMarkup) {
+  EXPECT_EQ(markdown_body("## In place, `x`\na [b](#c)\nd **e** [f](../g)\n- h\n  i\n- j < k\n"),
+            "<h2 id=\"in-place-x\">In place, <code>x</code></h2>\n"
+            "<p>a <a href=\"#c\">b</a> d <strong>e</strong> f</p>\n"
+            "<ul>\n<li>h i</li>\n<li>j &lt; k</li>\n</ul>\n");
+  const std::string rest = markdown_body("```c\na < b\n```\n| A | B |\n|---|---|\n| c | `d` |\n");
+  EXPECT_NE(rest.find("<code>a &lt; b\n</code></pre>"), std::string::npos);
+  EXPECT_NE(rest.find("<tr><td>c</td><td><code>d</code></td></tr>"), std::string::npos);
 }
 
 }  // namespace

@@ -1,12 +1,13 @@
 #include "docs/pages/catalogue.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include "generate/manifest.h"
 
 namespace pages {
 namespace {
+
+constexpr int kLongestDct4 = 131072;
 
 gen::Signature signature_of(Transform transform, int length, gen::Precision precision) {
   using gen::Direction, gen::Layout;
@@ -27,13 +28,17 @@ gen::Signature signature_of(Transform transform, int length, gen::Precision prec
   }
 }
 
-Entry entry_of(const gen::Kernel& kernel, const Figures& figures) {
-  Entry entry = {kernel, gen::count_operations(kernel.graph()), std::nullopt, {}};
-  const auto error = figures.error.find(kernel.name);
-  if (error != figures.error.end()) entry.error = error->second;
-  const auto speed = figures.speed.find(kernel.name);
-  if (speed != figures.speed.end()) entry.speed = speed->second;
-  return entry;
+// All targets write the same instructions down, in orders of their own.
+std::vector<Written> written(const gen::Kernel& kernel, const gen::Graph& graph,
+                             const std::vector<generate::Target>& targets) {
+  if (!kernel.is_generated) return {};
+  const gen::VectorOperations operations =
+      count_vector_operations(lowered(graph, kernel.source_elements, kernel.loads_halves));
+  std::vector<Written> result;
+  for (const generate::Target& target : targets) {
+    result.push_back({target.name, operations, to_string(target.order_of(kernel))});
+  }
+  return result;
 }
 
 }  // namespace
@@ -63,14 +68,19 @@ std::string title(gen::Precision precision) {
   return precision == gen::Precision::kSingle ? "single" : "double";
 }
 
-Catalogue make_catalogue(Figures figures) {
+Catalogue make_catalogue(Figures figures, const std::vector<generate::Target>& targets) {
   Catalogue catalogue;
   catalogue.figures = std::move(figures);
+  const auto entry_of = [&](const gen::Kernel& kernel) {
+    const gen::Graph graph = kernel.graph();
+    return Entry{kernel, gen::count_operations(graph), catalogue.figures.error_of(kernel.name),
+                 written(kernel, graph, targets)};
+  };
   std::map<std::string, gen::Kernel> kernels;
   for (const gen::Kernel& kernel : generate::all_kernels()) {
     kernels[kernel.name] = kernel;
     if (kernel.transform == gen::Transform::kWalshHadamard) {
-      catalogue.walsh_hadamard.push_back(entry_of(kernel, catalogue.figures));
+      catalogue.walsh_hadamard.push_back(entry_of(kernel));
     }
   }
   for (int length = 2; length <= 64; ++length) {
@@ -79,15 +89,44 @@ Catalogue make_catalogue(Figures figures) {
         const std::string name = name_of(signature_of(transform, length, precision));
         const auto kernel = kernels.find(name);
         if (kernel == kernels.end()) throw std::runtime_error("no kernel is called " + name);
-        catalogue.by_length[length].emplace(Key(transform, precision),
-                                            entry_of(kernel->second, catalogue.figures));
+        catalogue.by_length[length].emplace(Key(transform, precision), entry_of(kernel->second));
       }
     }
   }
-  const std::vector<std::string> exported = generate::exported_functions();
-  catalogue.has_dct4 =
-      std::find(exported.begin(), exported.end(), "zulgDCT4_32f") != exported.end();
+  for (int length = 2; length <= kLongestDct4; length *= 2)
+    catalogue.dct4_lengths.push_back(length);
   return catalogue;
+}
+
+std::vector<Group> groups(const Catalogue& catalogue) {
+  std::vector<Group> result;
+  for (const Transform transform : kTransforms) {
+    for (const gen::Precision precision : kPrecisions) {
+      Group& group = result.emplace_back(Group{title(transform), precision, {}});
+      for (const auto& [length, entries] : catalogue.by_length) {
+        group.functions.emplace_back(length, entries.at({transform, precision}).kernel.name);
+      }
+    }
+  }
+  for (const gen::Precision precision : kPrecisions) {
+    Group& group = result.emplace_back(Group{"Walsh-Hadamard", precision, {}});
+    for (const Entry& entry : catalogue.walsh_hadamard) {
+      if (entry.kernel.precision != precision) continue;
+      group.functions.emplace_back(entry.kernel.length(), entry.kernel.name);
+    }
+  }
+  for (const gen::Precision precision : kPrecisions) {
+    Group& group = result.emplace_back(Group{"DCT-IV", precision, {}});
+    for (const int length : catalogue.dct4_lengths) {
+      group.functions.emplace_back(length, dct4_name(precision, length));
+    }
+  }
+  return result;
+}
+
+std::string dct4_name(gen::Precision precision, int length) {
+  return std::string("zulgDCT4_") + (precision == gen::Precision::kSingle ? "32f_" : "64f_") +
+         std::to_string(length);
 }
 
 std::string factors(int length) {

@@ -8,7 +8,7 @@
 namespace pages {
 namespace {
 
-constexpr double kWidth = 560, kHeight = 300, kLeft = 46, kRight = 10, kTop = 34, kBottom = 34;
+constexpr double kWidth = 560, kHeight = 280, kLeft = 62, kRight = 10, kTop = 10, kBottom = 34;
 constexpr int kFirstLength = 2, kLastLength = 64;
 
 std::string number(double value) {
@@ -36,19 +36,24 @@ class Plot {
   }
 
   std::string draw() const {
-    std::string text = "<svg class=\"chart\" role=\"img\" viewBox=\"0 0 " + coordinate(kWidth) +
-                       " " + coordinate(kHeight) + "\">\n<title>" + escaped(chart_.title) +
-                       "</title>\n" + axes();
-    double legend = kLeft;
+    std::string text = "<svg class=\"chart\" aria-hidden=\"true\" viewBox=\"0 0 " +
+                       coordinate(kWidth) + " " + coordinate(kHeight) + "\">\n" + axes();
     for (std::size_t i = 0; i < chart_.series.size(); ++i) {
-      const Series& series = chart_.series[i];
-      if (series.values.empty()) continue;
-      text += "<g class=\"s" + std::to_string(i) + "\">" + mark(i, legend + 5, 16) + "<text" +
-              at("x", legend + 14) + " y=\"20\">" + escaped(series.name) + "</text>" +
-              drawn(series, i) + "</g>\n";
-      legend += 34 + text_width(series.name, 12);
+      if (chart_.series[i].values.empty()) continue;
+      text += "<g class=\"s" + std::to_string(i) + "\">" + drawn(chart_.series[i], i) + "</g>\n";
     }
     return text + "</svg>\n";
+  }
+
+  std::string legend() const {
+    std::string items;
+    for (std::size_t i = 0; i < chart_.series.size(); ++i) {
+      if (chart_.series[i].values.empty()) continue;
+      items += "<li><svg class=\"s" + std::to_string(i) +
+               "\" aria-hidden=\"true\" width=\"10\" height=\"10\">" + mark(i, 5, 5) + "</svg>" +
+               escaped(chart_.series[i].name) + "</li>";
+    }
+    return "<ul class=\"legend\">" + items + "</ul>\n";
   }
 
  private:
@@ -87,11 +92,9 @@ class Plot {
     std::string line, marks;
     for (const auto& [length, value] : series.values) {
       line += (line.empty() ? "M" : "L") + coordinate(x(length)) + " " + coordinate(y(value));
-      marks += "<a href=\"length-" + std::to_string(length) + ".html\">" +
-               mark(index, x(length), y(value),
+      marks += mark(index, x(length), y(value),
                     series.name + ", N = " + std::to_string(length) + ": " +
-                        fixed(value, chart_.digits) + " " + chart_.unit) +
-               "</a>";
+                        fixed(value, chart_.digits) + " " + chart_.unit);
     }
     return "<path d=\"" + line + "\"/>" + marks;
   }
@@ -148,8 +151,9 @@ std::string chart_picture(const Chart& chart) {
   const bool is_empty = std::all_of(chart.series.begin(), chart.series.end(),
                                     [](const Series& series) { return series.values.empty(); });
   if (is_empty) return "";
-  return "<figure>\n<figcaption>" + escaped(chart.title) + "</figcaption>\n" + Plot(chart).draw() +
-         "</figure>\n";
+  const Plot plot(chart);
+  return "<figure>\n<figcaption>" + escaped(chart.title) + "</figcaption>\n" + plot.legend() +
+         plot.draw() + "</figure>\n";
 }
 
 }  // namespace pages

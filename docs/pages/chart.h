@@ -20,8 +20,8 @@ struct Chart {
   std::vector<Series> series;  // four at the most; each gets a colour and a mark of its own
 };
 
-// An SVG element, styled by the page, whose marks lead to the pages of the lengths. Empty if there
-// are no values.
+// A figure with its legend, styled by the page. The drawing is for the eye alone: who shows it
+// shows its values in a table, too. Empty if there are no values.
 std::string chart_picture(const Chart& chart);
 
 // Round numbers from at most `low` to at least `high`; powers of ten and their halves and fifths on

@@ -16,28 +16,47 @@ using CsvRow = std::map<std::string, std::string>;
 std::vector<CsvRow> read_csv(std::istream& in, const std::string& name,
                              const std::vector<std::string>& wanted);
 
-// A CSV field as a number; none if it is "nan". Throws std::runtime_error if it is neither.
-std::optional<double> number(const std::string& field);
-
-// Core cycles a call. A figure that could not be taken is missing.
-struct Speed {
-  std::optional<double> cycles;
-  std::optional<double> fftw;   // held to SSE2
-  std::optional<double> ratio;  // FFTW's cycles over ours
+// Core cycles a call, or a ratio of them.
+struct Figure {
+  std::optional<double> value;
+  bool is_possible = true;  // false if there is nothing that could be measured
 };
 
-// One length of the DCT-IV.
-struct Dct4Speed {
-  std::string type;
-  int length = 0;
-  Speed speed;
+// A field of a table: a number, nothing if it isn't measured, "-" if it can't be. Throws
+// std::runtime_error if it is none of these.
+Figure figure_of(const std::string& field);
+
+// A peer's time over that of a level of the library; both are columns of a table.
+struct Comparison {
+  std::string peer, level;
 };
+
+// What programs are made for. The columns of its table are levels of the library, the plain one
+// first, and peers.
+struct Architecture {
+  std::string name;
+  std::vector<std::string> levels;
+  std::vector<Comparison> comparisons;  // of equals; the first is with what runs where both are new
+};
+extern const std::vector<Architecture> kArchitectures;
+extern const std::vector<std::string> kPeers;
+
+// A column as a reader knows it: "FFTW, SSE2".
+std::string column_title(const std::string& column);
+// "FFTW / x86-64-v3".
+std::string title(const Comparison& comparison);
 
 struct Figures {
-  std::map<std::string, double> error;  // by kernel, in units of u
-  std::map<std::string, Speed> speed;   // by kernel
-  std::vector<Dct4Speed> dct4;
+  std::map<std::string, double> error;  // by function, in units of u
+  // By architecture, function and column.
+  std::map<std::string, std::map<std::string, std::map<std::string, Figure>>> cycles;
   std::vector<std::pair<std::string, std::string>> machine;  // part, what it is
+
+  std::optional<double> error_of(const std::string& function) const;
+  Figure cycles_of(const Architecture& architecture, const std::string& function,
+                   const std::string& column) const;
+  Figure ratio_of(const Architecture& architecture, const std::string& function,
+                  const Comparison& comparison) const;
 };
 
 // Files that are not there leave their figures out.

@@ -47,14 +47,4 @@ double text_width(std::string_view text, double font_size) {
   return 0.58 * font_size * static_cast<double>(characters);
 }
 
-std::string page(const std::string& title, const std::string& crumbs, const std::string& body) {
-  return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\"/>\n"
-         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n"
-         "<title>" +
-         escaped(title) +
-         "</title>\n<link rel=\"stylesheet\" href=\"style.css\"/>\n</head>\n<body>\n"
-         "<nav>" +
-         crumbs + "</nav>\n<main>\n" + body + "</main>\n</body>\n</html>\n";
-}
-
 }  // namespace pages

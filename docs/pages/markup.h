@@ -26,7 +26,4 @@ std::string coordinate(double value);
 // About as wide as the text comes out in the sans-serif faces that readers have.
 double text_width(std::string_view text, double font_size);
 
-// A whole page. `body` is markup; `crumbs` too, and stands above it.
-std::string page(const std::string& title, const std::string& crumbs, const std::string& body);
-
 }  // namespace pages

@@ -1,21 +1,25 @@
 // Tables of figures.
 #pragma once
 
-#include <initializer_list>
-#include <optional>
 #include <string>
+#include <vector>
+
+#include "docs/pages/figures.h"
 
 namespace pages {
 
-// A figure, or a dash if there is none.
+// A figure; "n. m." if it isn't measured, a dash if it can't be.
+std::string shown(const Figure& figure, int digits);
 std::string shown(const std::optional<double>& value, int digits);
 
 // A row of a table: text cells on the left, then numbers. All are markup.
-std::string table_row(std::initializer_list<std::string> texts,
-                      std::initializer_list<std::string> numbers);
+std::string table_row(const std::vector<std::string>& texts,
+                      const std::vector<std::string>& numbers);
+std::string table_head(const std::vector<std::string>& texts,
+                       const std::vector<std::string>& numbers);
 
-// A table that scrolls by itself where the window is too narrow for it.
-std::string table(const std::string& head, const std::string& rows);
+// A table that scrolls by itself where the window is too narrow for it. `name` is what it shows.
+std::string table(const std::string& name, const std::string& head, const std::string& rows);
 
 // The geometric mean of some ratios, and the least of them with its length.
 class RatioSummary {
