@@ -1,4 +1,4 @@
-// The transform by a plan: kernels on L lanes, and the loops and recursion around them.
+// The transform by a plan: kernels on the lanes of a vector, and the loops and recursion around them.
 //
 // A result other than ZULG_OK means a plan that was overwritten; nobody reads it.
 #pragma once
@@ -63,9 +63,9 @@ static int run_first_stages(int rule, const FirstStages& stages) {
 }
 
 // A split works on W columns at a time, of which there are 32 then. What stands between its two
-// steps are N rows of W samples, which lie side by side at the beginning of its work buffer: so they stay in the cache from one
-// call to the next, where rows as far apart as those of the other buffers, a power of two, would
-// push one another out.
+// steps are N rows of W samples, which lie side by side at the beginning of its work buffer: so
+// they stay in the cache from one call to the next, where rows as far apart as those of the other
+// buffers, a power of two, would push one another out.
 
 // All skew transforms of an env8, from side by side rows to rows `row` samples apart.
 template <int r>

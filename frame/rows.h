@@ -50,9 +50,7 @@ template <class V, class Access = Aligned>
 struct Rows {
   SampleOf<V>* first;
   int stride;
-  ZULGEN_BODY void store(int row, V v) const {
-    store_by<V, Access>(first + row * stride, v);
-  }
+  ZULGEN_BODY void store(int row, V v) const { store_by<V, Access>(first + row * stride, v); }
 };
 
 }  // namespace zulgen

@@ -52,7 +52,8 @@ std::string emit_body(const Body& body, const Form& form) {
   text << "template <>\nstruct " << body.name << " {\n"
        << "  ZULGEN_BODY static void run(" << arguments_of(body, graph.sample_precision())
        << ") {\n";
-  if (body.source_elements > 0 && !body.loads_halves && style.memory_policy) text << "    using Memory = Aligned;\n";
+  const bool is_aligned = body.source_elements > 0 && !body.loads_halves;
+  if (is_aligned && style.memory_policy) text << "    using Memory = Aligned;\n";
   std::istringstream statements(emit_constants(code) +
                                 emit_body(code, schedule(code, form.order), style));
   for (std::string line; std::getline(statements, line);) text << "  " << line << "\n";

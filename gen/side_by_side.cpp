@@ -50,9 +50,9 @@ Graph side_by_side(const Graph& old, int distance) {
       case Op::kLanes: {
         std::vector<Lane> picks;
         for (const int half : {0, 1}) {
-          const std::vector<Lane> moved =
-              is_load(old, id) ? moved_load(old, node, half * distance, graph)
-                               : moved_lanes(node, half * width, new_value);
+          const std::vector<Lane> moved = is_load(old, id)
+                                              ? moved_load(old, node, half * distance, graph)
+                                              : moved_lanes(node, half * width, new_value);
           picks.insert(picks.end(), moved.begin(), moved.end());
         }
         return graph.lanes(picks);

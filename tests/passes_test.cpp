@@ -13,6 +13,7 @@
 #include "gen/precision.h"
 #include "gen/rewrite.h"
 #include "gen/schedule.h"
+#include "gen/side_by_side.h"
 
 namespace {
 
@@ -163,6 +164,24 @@ TEST(Moves, NeverLoadBehindTheSource) {
     }
     EXPECT_EQ(gen::count_vector_operations(loaded).moves == 0, by_halves) << "loads do it all";
     EXPECT_EQ(gen::interpret(loaded, source, 1), gen::interpret(graph, source, 1));
+  }
+}
+
+TEST(SideBySide, DoesTheSameInBothHalves) {
+  Graph graph(Precision::kSingle);
+  const std::vector<NodeId> v = computed_vectors(graph, 2);
+  const Value moved = graph.lanes({{v[0], 2}, {v[0], 0}, {v[1], 3}, {v[1], 3}});
+  const gen::Factors factors = {gen::ratio(1, 3), gen::ratio(1, 5), gen::ratio(-1, 7),
+                                gen::ratio(1, 9)};
+  const Value turned = graph.flip_signs(graph.mul(factors, moved), 0b0110);
+  graph.output(0, graph.sub(turned, {v[1]}));
+  const Graph wide = gen::side_by_side(graph, 8);
+  const std::vector<double> source = random_source(16);
+  const auto result = gen::evaluate(wide, source, 1)[wide.outputs()[0].from.node];
+  for (int half = 0; half < 2; ++half) {
+    const auto begin = source.begin() + 8 * half;
+    const auto wanted = gen::evaluate(graph, {begin, begin + 8}, 1)[graph.outputs()[0].from.node];
+    for (int lane = 0; lane < 4; ++lane) EXPECT_EQ(result[4 * half + lane], wanted[lane]);
   }
 }
 
