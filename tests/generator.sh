@@ -60,7 +60,7 @@ cp -r "$target" "$work/target"
 edit() {  # edit COMMAND: of sed, on the table; and back
   sed "$1" "$target/kernels.txt" >"$work/target/kernels.txt"
 }
-edit '3s/.*/zulgNone_1_32f live 0/'
+edit '3s/.*/zulgNone_1_32f  live 0/'
 refuse 1 "kernels.txt:3: no kernel" --target "$work/target" --out "$work/out"
 edit '3p'
 refuse 1 "kernels.txt:4: no kernel, or a second row" --target "$work/target" --out "$work/out"
