@@ -15,7 +15,7 @@
 #   -a, -f   only that architecture, only functions that the benchmark's filter takes; rows of other
 #            functions stay as they are
 #   -p       plans that FFTW's figure is the best of (default 4)
-#   -r       runs at most (default 8)
+#   -r       runs at most (default 8); 0 writes down what earlier runs have found
 #
 # It runs in pieces of some seconds, and goes on where it stopped as long as the build's libraries are
 # the same. On a shared machine, COMMAND is what to run each piece under, such as "flock FILE".
@@ -130,6 +130,7 @@ for architecture in ${architectures:-$all}; do
     cat "$work/piece" >>"$kept"
   done
   left=$((left + $(wc -l <"$work/todo")))
+  [ -s "$kept" ] || continue
   csv=$measured/$architecture.csv
   if [ -e "$csv" ] && [ "$(head -n 1 "$csv")" = "$(head -n 1 "$work/figures")" ]; then
     awk -F, 'FILENAME == ARGV[1] { measured[$1]; print; next } !($1 in measured)' "$work/figures" "$csv" \
@@ -145,10 +146,11 @@ for architecture in ${architectures:-$all}; do
 done
 
 # Errors follow from the data flows and hang on no machine, but for the sines in the DCT-IV's tables.
-error=$measured/error.csv
-"$@" env ZULGEN_ERROR_CSV="$error" "$build/bin/accuracy_test" --gtest_filter='*AreAccurate' >/dev/null
-"$@" env ZULGEN_ERROR_CSV="$error" "$build/bin/dct4_test_$(echo "$all" | head -n 1)" \
+"$@" env ZULGEN_ERROR_CSV="$work/error.csv" "$build/bin/accuracy_test" \
+  --gtest_filter='*AreAccurate' >/dev/null
+"$@" env ZULGEN_ERROR_CSV="$work/error.csv" "$build/bin/dct4_test_$(echo "$all" | head -n 1)" \
   --gtest_filter='Dct4/*.IsAccurate' >/dev/null
+mv "$work/error.csv" "$measured"
 if [ "$left" -gt 0 ]; then
   echo "$left functions have figures missing: other work on this machine did not let two runs agree"
   exit 1
