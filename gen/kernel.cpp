@@ -99,17 +99,23 @@ Graph packed(const Graph& lowered, const std::vector<Pairing>& pairings, const M
   return graph;
 }
 
+Graph written_graph(const Kernel& kernel, const Graph& graph, const Form& form) {
+  if (kernel.is_wide(*form.moves)) {
+    const Graph code = lowered(kernel.wide_graph(), kernel.source_elements);
+    prove_equal(graph, code);
+    return code;
+  }
+  const Graph code = lowered(graph, kernel.source_elements, kernel.loads_halves);
+  return form.pairings.empty() ? code : packed(code, form.pairings, *form.moves);
+}
+
 Quad one_over_n(int n) { return 1.0 / n; }
 Quad one_over_sqrt_n(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 
 WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
   if (!kernel.is_generated) throw std::invalid_argument(kernel.name + " is written by hand");
-  const Graph graph = kernel.graph();
+  const Graph graph = kernel.graph(), code = written_graph(kernel, graph, form);
   const bool is_wide = kernel.is_wide(*form.moves), is_packed = !form.pairings.empty();
-  Graph code = is_wide ? lowered(kernel.wide_graph(), kernel.source_elements)
-                       : lowered(graph, kernel.source_elements, kernel.loads_halves);
-  if (is_wide) prove_equal(graph, code);
-  if (is_packed) code = packed(code, form.pairings, *form.moves);
   const double bound = port_bound(count_vector_operations(code));
   if (!kernel.same_as.empty()) return {emit_alias(kernel), bound};
   const std::string element = kernel.is_single() ? "float" : "double";

@@ -57,6 +57,9 @@ Graph lowered(const Graph& graph, int source_elements, bool loads_halves = false
 // out is proved to be equal. Throws std::invalid_argument.
 Graph packed(const Graph& lowered, const std::vector<Pairing>& pairings, const MoveSet& moves);
 
+// The kernel's data flow, which `graph` is, as it is written out in that form.
+Graph written_graph(const Kernel& kernel, const Graph& graph, const Form& form);
+
 // The kernel's functions as C++, and what they cost.
 struct WrittenKernel {
   std::string text;

@@ -28,15 +28,15 @@ gen::Signature signature_of(Transform transform, int length, gen::Precision prec
   }
 }
 
-// All targets write the same instructions down, in orders of their own.
+// What every target makes of the kernel.
 std::vector<Written> written(const gen::Kernel& kernel, const gen::Graph& graph,
                              const std::vector<generate::Target>& targets) {
   if (!kernel.is_generated) return {};
-  const gen::VectorOperations operations =
-      count_vector_operations(lowered(graph, kernel.source_elements, kernel.loads_halves));
   std::vector<Written> result;
   for (const generate::Target& target : targets) {
-    result.push_back({target.name, operations, to_string(target.order_of(kernel))});
+    const gen::Form form = target.form_of(kernel);
+    const gen::Graph code = written_graph(kernel, graph, form);
+    result.push_back({target.name, count_vector_operations(code), to_string(form.order)});
   }
   return result;
 }
