@@ -66,6 +66,8 @@ set_source_files_properties(dct4/dct4_32f.cpp dct4/dct4_64f.cpp PROPERTIES COMPI
 # zulgen_allocator(target): the companion.
 function(zulgen_allocator target)
   zulgen_objects(zulcore_objects_${target} ${target} core/zulcore.cpp)
+  # With -flto, lld has no global offset table for 32-bit code if all of a library is its own work.
+  target_compile_options(zulcore_objects_${target} PRIVATE -fno-lto)
   zulgen_shared_library(zulcore_${target} TARGET ${target} OUTPUT_NAME zulcore WITH_ARCHIVE
     EXPORTS ${PROJECT_SOURCE_DIR}/core/zulcore.map
     OBJECTS $<TARGET_OBJECTS:zulcore_objects_${target}> LIBRARIES c)
