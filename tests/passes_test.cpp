@@ -14,6 +14,7 @@
 #include "gen/rewrite.h"
 #include "gen/schedule.h"
 #include "gen/side_by_side.h"
+#include "networks/mirror.h"
 
 namespace {
 
@@ -203,6 +204,34 @@ TEST(WidenProducts, RoundsWhereASingleSumReads) {
   const std::vector<double> result = gen::interpret(widened, source, s);
   EXPECT_EQ(result[0], s * (f + b));
   EXPECT_EQ(result[1], static_cast<float>((f - dc * e) * s));
+}
+
+// A value that tells how it was put together.
+struct Text {
+  std::string text;
+
+  friend Text operator+(const Text& a, const Text& b) {
+    return {"(" + a.text + " + " + b.text + ")"};
+  }
+  friend Text operator-(const Text& a, const Text& b) {
+    return {"(" + a.text + " - " + b.text + ")"};
+  }
+  friend Text operator-(const Text& a) { return {"-" + a.text}; }
+  friend Text operator*(const Number& c, const Text& a) { return {c.name() + " " + a.text}; }
+};
+
+// In which order nodes are made is the compiler's choice between operands.
+TEST(Mirror, AddsInAnOrderThatHangsOnTheNetworkAlone) {
+  const auto mirrored = [](bool made_from_behind) {
+    const auto make = [=](const std::vector<gen::Expr>& in) {
+      const auto product = [&](int k) { return gen::cos_of_turn(k, 32) * in[0]; };
+      for (int k = 3; made_from_behind && k > 0; --k) product(k);
+      const gen::Expr sum = product(1) + product(2);
+      return std::vector{sum + product(3)};
+    };
+    return networks::run_mirrored(1, make, std::vector<Text>{{"y"}})[0].text;
+  };
+  EXPECT_EQ(mirrored(false), mirrored(true));
 }
 
 Graph random_graph(unsigned seed) {
