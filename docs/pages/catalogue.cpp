@@ -28,6 +28,13 @@ gen::Signature signature_of(Transform transform, int length, gen::Precision prec
   }
 }
 
+// "live 3 x2".
+std::string text_of(const gen::Kernel& kernel, const gen::Form& form) {
+  const std::size_t doublings = form.pairings.size() + kernel.is_wide(*form.moves);
+  return to_string(form.order) +
+         (doublings == 0 ? "" : " x" + std::to_string(std::size_t{1} << doublings));
+}
+
 // What every target makes of the kernel.
 std::vector<Written> written(const gen::Kernel& kernel, const gen::Graph& graph,
                              const std::vector<generate::Target>& targets) {
@@ -36,7 +43,7 @@ std::vector<Written> written(const gen::Kernel& kernel, const gen::Graph& graph,
   for (const generate::Target& target : targets) {
     const gen::Form form = target.form_of(kernel);
     const gen::Graph code = written_graph(kernel, graph, form);
-    result.push_back({target.name, count_vector_operations(code), to_string(form.order)});
+    result.push_back({target.name, count_vector_operations(code), text_of(kernel, form)});
   }
   return result;
 }

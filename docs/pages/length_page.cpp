@@ -33,8 +33,7 @@ std::string instruction_table(const std::map<Key, Entry>& entries) {
     for (const Written& written : entry.written) {
       const gen::VectorOperations& operations = written.operations;
       rows += table_row(
-          {&written == &entry.written.front() ? code(entry) : "", written.target,
-           written.order},
+          {&written == &entry.written.front() ? code(entry) : "", written.target, written.order},
           {std::to_string(operations.additions), std::to_string(operations.multiplications),
            std::to_string(operations.moves), std::to_string(operations.sign_flips),
            std::to_string(operations.conversions)});

@@ -63,7 +63,8 @@ const std::vector<Term> kOrders = {
      "11 is the variant, which breaks ties its own way."},
     {"live 2",
      "Greedy: next comes the statement that raises the number of live values the least; 2 is the "
-     "variant."}};
+     "variant."},
+    {"live 2 x2", "The same in vectors twice as wide as elsewhere."}};
 
 const std::vector<Term> kFigures = {
     {"Operations",
