@@ -22,8 +22,8 @@ V load_twice(const void* p) {
   return V(_mm256_broadcastsi128_si256(_mm_loadu_si128(static_cast<const __m128i*>(p))));
 }
 
-// Two floats into both places of the low half, two into those of the high half: the merge may run on
-// any of three ports.
+// Two floats into both places of the low half, two into those of the high half: the merge may run
+// on any of three ports.
 inline F8 load_each_twice(const float* low, const float* high) {
   double x, y;
   __builtin_memcpy(&x, low, sizeof x);
@@ -150,9 +150,9 @@ inline F8 unpack_high(F8 x, F8 y) { return F8(_mm256_unpackhi_epi32(__m256i(x), 
 // Negates the lanes marked 1.
 template <int a, int b, int c, int d, int e, int f, int g, int h>
 F8 flip_signs(F8 x) {
-  return _mm256_xor_ps(x, _mm256_setr_ps(a ? -0.0f : 0.0f, b ? -0.0f : 0.0f, c ? -0.0f : 0.0f,
-                                         d ? -0.0f : 0.0f, e ? -0.0f : 0.0f, f ? -0.0f : 0.0f,
-                                         g ? -0.0f : 0.0f, h ? -0.0f : 0.0f));
+  return _mm256_xor_ps(
+      x, _mm256_setr_ps(a ? -0.0f : 0.0f, b ? -0.0f : 0.0f, c ? -0.0f : 0.0f, d ? -0.0f : 0.0f,
+                        e ? -0.0f : 0.0f, f ? -0.0f : 0.0f, g ? -0.0f : 0.0f, h ? -0.0f : 0.0f));
 }
 template <int a, int b, int c, int d>
 D4 flip_signs(D4 x) {

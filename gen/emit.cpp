@@ -251,7 +251,10 @@ class BodyWriter {
       case Op::kScale:
         return (node.flips == 0 ? scale(node) : flipped(node, scale(node))) + " * " + name(node.a);
       case Op::kWiden:
-        return (node.lane_count == 1 ? "static_cast<double>(" : node.lane_count == 2 ? "widened(" : "widened_four(") + name(node.a) + ")";
+        return (node.lane_count == 1   ? "static_cast<double>("
+                : node.lane_count == 2 ? "widened("
+                                       : "widened_four(") +
+               name(node.a) + ")";
       case Op::kRound:
         return (node.lane_count == 1 ? "static_cast<float>(" : "rounded(") + name(node.a) + ")";
     }
@@ -275,7 +278,6 @@ class BodyWriter {
     const auto flips = by_lane(node, [](bool flip) { return std::string(flip ? "1" : "0"); });
     return "flip_signs<" + list(flips) + ">(" + value + ")";
   }
-
 
   std::string factor(const Node& node) const {
     std::vector<std::string> lanes;

@@ -137,15 +137,17 @@ Value Graph::settle_sign(Value a) {
 Value Graph::widen(Value a) { return unary(Op::kWiden, a, Precision::kDouble); }
 Value Graph::round(Value a) { return unary(Op::kRound, a, Precision::kSingle); }
 
+Value Graph::settle_flip(Value a) {
+  if (!a.negative) return a;
+  Node node = shaped_like(a.node);
+  node.op = Op::kFlipSigns;
+  node.a = a.node;
+  node.flips = (1u << node.lane_count) - 1;
+  return {intern(node)};
+}
+
 void Graph::output(int element, Value value, int lane) {
-  if (value.negative) {
-    Node node = shaped_like(value.node);
-    node.op = Op::kFlipSigns;
-    node.a = value.node;
-    node.flips = (1u << node.lane_count) - 1;
-    value = {intern(node)};
-  }
-  outputs_.push_back({element, {value.node, lane}});
+  outputs_.push_back({element, {settle_flip(value).node, lane}});
 }
 
 void Graph::begin_stage(const Stage& stage) {

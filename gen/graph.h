@@ -29,7 +29,7 @@ enum class Op : std::uint8_t {
   kLanes,      // lanes picked from other nodes; lanes that nobody reads may stay open
   kFlipSigns,  // negates some lanes
   kFromZero,   // 0.0 - a: the negative, but +0.0 of either zero
-  kAdd,  // in the lanes of `flips`, a - b
+  kAdd,        // in the lanes of `flips`, a - b
   kSub,
   kMul,      // each lane by its own constant
   kProduct,  // of two values
@@ -111,6 +111,8 @@ class Graph {
   Value scale(Value a, unsigned flips = 0);
   // Carries out a sign that is still outside as 0.0 - a.
   Value settle_sign(Value a);
+  // Carries out a sign that is still outside as a sign flip.
+  Value settle_flip(Value a);
   Value widen(Value a);
   Value round(Value a);
 

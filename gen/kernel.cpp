@@ -70,8 +70,8 @@ std::string arguments_of(const Kernel& kernel) {
 
 std::string emit_alias(const Kernel& kernel) {
   return "// " + kernel.name + " is " + kernel.same_as + ".\nZULGEN_EXPORT zulgResult " +
-         kernel.name + arguments_of(kernel) + "\n    __attribute__((alias(\"" +
-         kernel.same_as + "\")));\n";
+         kernel.name + arguments_of(kernel) + "\n    __attribute__((alias(\"" + kernel.same_as +
+         "\")));\n";
 }
 
 }  // namespace
@@ -147,8 +147,8 @@ WrittenKernel emit_kernel(const Kernel& kernel, const Form& form) {
 
   static constexpr const char* kFunctions[] = {"SCALAR", "SHORT_VECTOR", "VECTOR"};
   const Bodies bodies = any_address ? Bodies::kOne : kernel.bodies;
-  text << "ZULGEN_" << kFunctions[static_cast<int>(bodies)] << "_KERNEL(" << body_name
-       << ",\n    " << arguments << ",\n    (source, destination, flag"
+  text << "ZULGEN_" << kFunctions[static_cast<int>(bodies)] << "_KERNEL(" << body_name << ",\n    "
+       << arguments << ",\n    (source, destination, flag"
        << (kernel.has_work_argument ? ", work" : "") << "))\n";
   return {text.str(), bound};
 }

@@ -134,7 +134,8 @@ Graph synthesize_shuffles(const Graph& old) {
       }
       return picks;
     };
-    std::vector<Lane> picks = translated({node.picks.begin(), node.picks.begin() + node.lane_count});
+    std::vector<Lane> picks =
+        translated({node.picks.begin(), node.picks.begin() + node.lane_count});
     for (int first : {0, 2}) {
       if (!is_mixed(node.picks, first)) continue;
       const Need need(node.picks, first);

@@ -84,9 +84,8 @@ std::optional<Move> wide_unpack(const Graph& graph, const Node& node) {
     const Lane wanted = {node.picks[lane % 2].node, lane / 4 * 4 + first + lane % 4 / 2};
     if (node.picks[lane] != wanted || graph[wanted.node].lane_count != 8) return std::nullopt;
   }
-  return Move{first == 0 ? "unpack_low" : "unpack_high",
-              {node.picks[0].node, node.picks[1].node},
-              {}};
+  return Move{
+      first == 0 ? "unpack_low" : "unpack_high", {node.picks[0].node, node.picks[1].node}, {}};
 }
 
 class Avx2Moves : public SseMoves {

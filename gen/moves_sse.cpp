@@ -74,7 +74,9 @@ std::optional<Move> joined(const Node& node) {
   const auto [low, high] = std::pair(node.picks[0], node.picks[1]);
   if (is_open(low) || is_open(high)) return std::nullopt;
   const bool single = node.precision == Precision::kSingle;
-  return Move{with_indices(single ? "join_floats" : "join_doubles", {low.index, high.index}), {low.node, high.node}, {}};
+  return Move{with_indices(single ? "join_floats" : "join_doubles", {low.index, high.index}),
+              {low.node, high.node},
+              {}};
 }
 
 // Two lanes of single precision, which are half of a vector.
@@ -109,7 +111,8 @@ std::optional<Move> SseMoves::single_move(const Graph& graph, NodeId lanes) cons
   if (const auto load = single_load(graph, node)) return load;
   bool scalars = false;
   for (int lane = 0; lane < node.lane_count; ++lane) {
-    scalars = scalars || (!is_open(node.picks[lane]) && graph[node.picks[lane].node].lane_count == 1);
+    scalars =
+        scalars || (!is_open(node.picks[lane]) && graph[node.picks[lane].node].lane_count == 1);
   }
   if (scalars) return node.lane_count == 2 ? joined(node) : std::nullopt;
   if (const auto shuffle = single_shuffle(node)) return shuffle;

@@ -13,8 +13,8 @@ namespace {
 // Lanes that nobody reads, filled so that a move stays what it is.
 std::vector<Lane> filled_picks(const Node& node) {
   std::vector<Lane> picks(node.picks.begin(), node.picks.begin() + node.lane_count);
-  const auto first = std::find_if(picks.begin(), picks.end(),
-                                  [](const Lane& pick) { return !is_open(pick); });
+  const auto first =
+      std::find_if(picks.begin(), picks.end(), [](const Lane& pick) { return !is_open(pick); });
   const int half = std::max(1, node.lane_count / 2);
   for (int lane = 0; lane < node.lane_count; ++lane) {
     if (!is_open(picks[lane])) continue;
@@ -35,9 +35,9 @@ unsigned subtracted(const Node& node) {
 }  // namespace
 
 PackNode pack_node(const Graph& graph, NodeId id) {
-  const bool is_identity = id >= graph.size();
+  const bool is_identity = id >= kIdentity;
   PackNode result;
-  if (is_identity) id -= graph.size();
+  if (is_identity) id -= kIdentity;
   const Node& node = graph[id];
   const int precision = static_cast<int>(node.precision);
   if (is_identity) {
@@ -65,7 +65,11 @@ PackNode pack_node(const Graph& graph, NodeId id) {
     if (slot == result.slots.end()) result.slots.push_back(pick.node);
     pick.node = position;
   }
-  if (result.kind.empty() || node.lane_count == 1) return {{}, result.slots, false, false, {}};
+  // No move picks single floats of two vectors in turn.
+  const bool two_floats = node.lane_count == 2 && node.precision == Precision::kSingle;
+  if (result.kind.empty() || node.lane_count == 1 || (two_floats && result.slots.size() > 1)) {
+    return {{}, result.slots, false, false, {}};
+  }
   for (const Lane& pick : result.picks) {
     result.kind.push_back(pick.node);
     // Two lanes of 64 bits may be picked in either half in its own way.
@@ -83,17 +87,19 @@ class Packer {
       : old_(old),
         moves_(moves),
         graph_(old.sample_precision()),
-        pair_of_(2 * old.size(), -1),
+        pair_of_(old.size(), -1),
+        pair_of_identity_(old.size(), -1),
         pairs_(pairing),
         packed_(pairing.size(), kNoNode),
         single_(old.size(), kNoNode) {
+    if (old.size() > kIdentity) throw std::logic_error("a graph too large to be packed");
     for (std::size_t i = 0; i < pairs_.size(); ++i) check(static_cast<int>(i));
   }
 
   Graph run() {
     for (const Output& out : old_.outputs()) {
-      const NodeId identity = old_.size() + out.from.node;
-      const bool is_paired = pair_of_[identity] >= 0;
+      const NodeId identity = kIdentity + out.from.node;
+      const bool is_paired = pair_of(identity) >= 0;
       const Lane place = place_of(is_paired ? identity : out.from.node);
       graph_.output(out.element, {place.node}, place.index + out.from.index);
     }
@@ -109,19 +115,23 @@ class Packer {
   void check(int index) {
     const Pair& pair = pairs_[index];
     for (const NodeId id : {pair.low, pair.high}) {
-      if (id < 0 || id >= 2 * old_.size()) fail(pair, "are no nodes");
-      if (pair_of_[id] >= 0 || pair.low == pair.high) fail(pair, "are paired already");
+      if (id < 0 || id % kIdentity >= old_.size() || id >= 2 * kIdentity)
+        fail(pair, "are no nodes");
+      if (pair_of(id) >= 0 || pair.low == pair.high) fail(pair, "are paired already");
     }
     const PackNode low = pack_node(old_, pair.low), high = pack_node(old_, pair.high);
     if (low.kind.empty() || low.kind != high.kind) fail(pair, "are of different kinds");
-    pair_of_[pair.low] = pair_of_[pair.high] = index;
+    pair_of(pair.low) = pair_of(pair.high) = index;
   }
 
-  int lane_count(NodeId id) const { return old_[id < old_.size() ? id : id - old_.size()].lane_count; }
+  int& pair_of(NodeId id) {
+    return id < kIdentity ? pair_of_[id] : pair_of_identity_[id - kIdentity];
+  }
+  int lane_count(NodeId id) const { return old_[id % kIdentity].lane_count; }
 
   // Where the lanes of an old node are in the new graph, from the first on.
   Lane place_of(NodeId id) {
-    const int pair = pair_of_[id];
+    const int pair = pair_of(id);
     if (pair < 0) return {single(id), 0};
     return {packed(pair), id == pairs_[pair].low ? 0 : lane_count(id)};
   }
@@ -144,9 +154,7 @@ class Packer {
     NewValues operands(id + 1);
     for (const NodeId operand : old_.operands(id)) operands[operand] = {narrow(operand)};
     graph_.begin_stage(old_.stages()[old_[id].stage]);
-    const Value copy = copy_node(old_, id, graph_, operands);
-    if (copy.negative) throw std::logic_error("a node that negates all lanes");
-    return single_[id] = copy.node;
+    return single_[id] = graph_.settle_flip(copy_node(old_, id, graph_, operands)).node;
   }
 
   NodeId packed(int index) {
@@ -228,7 +236,7 @@ class Packer {
     }
     std::vector<NodeId> operands;
     for (std::size_t i = 0; i < firsts.size(); ++i) operands.push_back(join(firsts[i], mates[i]));
-    const NodeId model = pair.low < old_.size() ? pair.low : pair.high;
+    const NodeId model = pair.low < kIdentity ? pair.low : pair.high;
     graph_.begin_stage(old_.stages()[old_[model].stage]);
     if (low.picks.empty()) return operation(pair, operands);
     std::vector<Lane> lanes;
@@ -251,10 +259,10 @@ class Packer {
   NodeId operation(const Pair& pair, const std::vector<NodeId>& operands) {
     const int count = lane_count(pair.low);
     const Value a{operands[0]};
-    if (pair.low >= old_.size() || pair.high >= old_.size()) {
+    if (pair.low >= kIdentity || pair.high >= kIdentity) {
       // x beside 0 - y: (-0, +0) + (x, -y).
       const unsigned low = all_lanes(count), high = low << count;
-      const unsigned same = (pair.low >= old_.size() ? low : 0) | (pair.high >= old_.size() ? high : 0);
+      const unsigned same = (pair.low >= kIdentity ? low : 0) | (pair.high >= kIdentity ? high : 0);
       const Value zero = graph_.zero(graph_[a.node].precision, 2 * count, same);
       return graph_.add(zero, graph_.flip_signs(a, ~same)).node;
     }
@@ -266,7 +274,7 @@ class Packer {
         return graph_.add_or_subtract(a, {operands[1]}, subtracted(low) | subtracted(high) << count)
             .node;
       case Op::kFlipSigns:
-        return graph_.flip_signs(a, flips).node;
+        return graph_.settle_flip(graph_.flip_signs(a, flips)).node;
       case Op::kFromZero:
         return graph_.settle_sign(-a).node;
       case Op::kMul: {
@@ -293,7 +301,7 @@ class Packer {
   const Graph& old_;
   const MoveSet& moves_;
   Graph graph_;
-  std::vector<int> pair_of_;  // by old node, and by identity
+  std::vector<int> pair_of_, pair_of_identity_;  // by old node
   const Pairing& pairs_;
   std::vector<NodeId> packed_, single_;
   std::map<std::pair<NodeId, NodeId>, NodeId> joined_;

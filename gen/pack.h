@@ -1,5 +1,5 @@
-// Packing: from a graph of vectors to one of vectors twice as wide, which computes the same bits lane
-// by lane. Which nodes go side by side is told by a pairing; everything else follows from it.
+// Packing: from a graph of vectors to one of vectors twice as wide, which computes the same bits
+// lane by lane. Which nodes go side by side is told by a pairing; everything else follows from it.
 #pragma once
 
 #include <string>
@@ -12,9 +12,10 @@
 namespace gen {
 
 // Two nodes whose lanes become the low and the high half of one. They are of one kind, and neither
-// depends on the other. A node 0 - x, which makes an output, may go beside an output that is no such
-// difference: the id of that one is raised by the size of the graph, and names what it is then,
-// itself and unchanged.
+// depends on the other. A node 0 - x, which makes an output, may go beside an output that is no
+// such difference: the id of that one is raised by kIdentity, and names what it is then, itself and
+// unchanged.
+inline constexpr NodeId kIdentity = 10000;
 struct Pair {
   NodeId low = kNoNode, high = kNoNode;
   friend auto operator<=>(const Pair&, const Pair&) = default;
@@ -42,9 +43,9 @@ PackNode pack_node(const Graph& graph, NodeId id);
 // doesn't fit is a std::invalid_argument.
 Graph pack(const Graph& graph, const Pairing& pairing, const MoveSet& moves);
 
-// Throws std::logic_error unless both graphs compute every output by the very same operations, up to
-// what is equal in every bit: operands of a sum and a product in any order, a - b as a + (-b), signs
-// of products and of their conversions carried out earlier or later, -0 + x as x.
+// Throws std::logic_error unless both graphs compute every output by the very same operations, up
+// to what is equal in every bit: operands of a sum and a product in any order, a - b as a + (-b),
+// signs of products and of their conversions carried out earlier or later, -0 + x as x.
 void prove_equal(const Graph& graph, const Graph& packed);
 
 }  // namespace gen

@@ -1,5 +1,5 @@
-// Both graphs are expanded, lane by lane, into expressions of scalars, which are shared as far as they
-// are equal: then equal outputs are the same expression.
+// Both graphs are expanded, lane by lane, into expressions of scalars, which are shared as far as
+// they are equal: then equal outputs are the same expression.
 #include <algorithm>
 #include <cmath>
 #include <map>

@@ -18,12 +18,12 @@ struct PackModel {
     std::vector<int> slots, users;
     Op op = Op::kInput;
     bool commutes = false, is_load = false, is_used = false, is_output = false;
-    bool wide = false;      // paired, it takes 256 bits
-    bool floats = false;    // paired, it is two floats
+    bool wide = false;    // paired, it takes 256 bits
+    bool floats = false;  // paired, it is two floats
     unsigned flips = 0;
     int lanes = 1;
-    int element = -1;       // a load: the first element, if they are consecutive
-    int stored_at = -1;     // an output: the first element, if they are consecutive
+    int element = -1;    // a load: the first element, if they are consecutive
+    int stored_at = -1;  // an output: the first element, if they are consecutive
     int reads = 0;
     std::uint64_t above = 0, below = 0;  // hashes of what it depends on, and of what depends on it
   };
@@ -36,7 +36,8 @@ struct PackModel {
   bool depends(int u, int v) const { return reach[u][v / 64] >> (v % 64) & 1; }
   bool can_pair(int u, int v) const {
     return u != v && places[u].kind >= 0 && places[u].kind == places[v].kind && !depends(u, v) &&
-           !depends(v, u) && !(places[u].kind == places[v].kind && is_identity(u) && is_identity(v));
+           !depends(v, u) &&
+           !(places[u].kind == places[v].kind && is_identity(u) && is_identity(v));
   }
   bool is_identity(int u) const { return 2 * u >= static_cast<int>(places.size()); }
 };
@@ -62,11 +63,11 @@ PackModel::PackModel(const Graph& graph) : places(2 * graph.size()) {
     const NodeId node_id = identity ? id - size : id;
     if (!live[node_id] || (identity && !is_output[node_id])) continue;
     const Node& node = graph[node_id];
-    const PackNode pack = pack_node(graph, id);
+    const PackNode pack = pack_node(graph, identity ? node_id + kIdentity : id);
     Place& place = places[id];
     place.is_used = true;
     place.is_output = identity || (is_output[id] && node.op == Op::kFromZero);
-    if (is_output[node_id] && !identity && pack_node(graph, id + size).kind.empty()) {
+    if (is_output[node_id] && !identity && pack_node(graph, id + kIdentity).kind.empty()) {
       place.is_output = true;
     }
     place.op = identity ? Op::kFromZero : node.op;
@@ -166,7 +167,12 @@ class Annealer {
       }
     }
     for (int id = 0; id < static_cast<int>(best_mate.size()); ++id) {
-      if (best_mate[id] >= 0 && best_low[id]) found.pairing.push_back({id, best_mate[id]});
+      if (best_mate[id] < 0 || !best_low[id]) continue;
+      const auto name = [&](int place) {
+        const int size = static_cast<int>(best_mate.size()) / 2;
+        return place < size ? place : place - size + kIdentity;
+      };
+      found.pairing.push_back({name(id), name(best_mate[id])});
     }
     return found;
   }
@@ -321,7 +327,8 @@ class Annealer {
   bool is_first(int key_low, int key_high) {
     const std::uint32_t slot_count = 1u << 14;
     if (seen_.empty()) seen_.resize(slot_count);
-    const std::uint64_t key = static_cast<std::uint64_t>(key_low) << 32 | static_cast<unsigned>(key_high);
+    const std::uint64_t key =
+        static_cast<std::uint64_t>(key_low) << 32 | static_cast<unsigned>(key_high);
     std::uint32_t at = static_cast<std::uint32_t>(mixed(key, 1)) % slot_count;
     while (seen_[at].stamp == stamp_) {
       if (seen_[at].key == key) return false;
@@ -371,7 +378,8 @@ class Annealer {
       }
       return 0;
     }
-    const bool x_high = mate_[low] >= 0 && !is_low_[low], y_high = mate_[high] >= 0 && !is_low_[high];
+    const bool x_high = mate_[low] >= 0 && !is_low_[low],
+               y_high = mate_[high] >= 0 && !is_low_[high];
     if (x.is_load) count_lone(low);
     if (y.is_load && is_new) ++totals_.loads;
     if (!x_high && (y_high || y.is_load)) {
@@ -499,7 +507,8 @@ class Annealer {
       const int other = mate_[id] < 0 && model_.is_identity(id)
                             ? mate + static_cast<int>(model_.places.size()) / 2
                             : mate;
-      if (model_.places[other].stored_at == place.stored_at + place.lanes) return;  // with the other
+      if (model_.places[other].stored_at == place.stored_at + place.lanes)
+        return;  // with the other
     }
     totals_.stores += whole ? 1 : 2;
     if (mate >= 0 && !is_low_[source] && !whole) ++totals_.crossings;
@@ -520,8 +529,8 @@ class Annealer {
     }
     const Totals& t = totals_;
     const int two = t.additions + t.shuffles + t.crossings, three = two + t.products + t.blends;
-    const long bound = std::max({600L * t.crossings, 300L * two, 200L * three, 200L * t.loads,
-                                 300L * t.stores});
+    const long bound =
+        std::max({600L * t.crossings, 300L * two, 200L * three, 200L * t.loads, 300L * t.stores});
     return bound + 30L * (three + t.loads + t.stores) + 30L * (t.shuffles + t.crossings) +
            12L * t.crossings + 6L * search_.path_weight * path;
   }

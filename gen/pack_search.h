@@ -1,5 +1,5 @@
-// The search for a pairing that makes a packed kernel cheap. It takes seconds to minutes a kernel, so
-// it runs once, by a tool, and what it finds is kept in the target's tables.
+// The search for a pairing that makes a packed kernel cheap. It takes seconds to minutes a kernel,
+// so it runs once, by a tool, and what it finds is kept in the target's tables.
 #pragma once
 
 #include "gen/pack.h"
@@ -18,8 +18,8 @@ struct FoundPairing {
   long cost = 0, cost_unpaired = 0;
 };
 
-// Simulated annealing: a move pairs two nodes and lets the pairing grow along what they read and what
-// reads them, over whatever was there. Whole numbers decide, so that a search can be repeated.
+// Simulated annealing: a move pairs two nodes and lets the pairing grow along what they read and
+// what reads them, over whatever was there. Whole numbers decide, so that a search can be repeated.
 FoundPairing find_pairing(const Graph& graph, const PairingSearch& search);
 
 }  // namespace gen

@@ -119,7 +119,9 @@ void run(const std::vector<std::string>& arguments) {
       {"--recipe", [](Value name) { std::cout << find_kernel(name).recipe << "\n"; }},
       {"--arrange", [](Value name) { print_arrangement(find_kernel(name)); }},
       {"--pair",
-       [](Value name) { std::cout << generate::find_pairings(find_kernel(name), kSearchMoves); }},
+       [](Value name) {
+         std::cout << generate::find_pairings(find_kernel(name), kSearchMoves, gen::avx2_moves());
+       }},
       {"--dot", [](Value name) { std::cout << gen::dot_graph(find_kernel(name)); }},
       {"--print", [&](Value name) { options.print = name; }},
       {"--variants", [&](Value name) { options.variants = name; }},

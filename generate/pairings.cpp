@@ -16,15 +16,26 @@ int path_weight(int length) {
 
 }  // namespace
 
-std::string find_pairings(const gen::Kernel& kernel, int moves) {
+std::string find_pairings(const gen::Kernel& kernel, int moves, const gen::MoveSet& widest) {
   const gen::Graph graph = gen::number_from_outputs(
       gen::lowered(kernel.graph(), kernel.source_elements, kernel.loads_halves));
-  gen::FoundPairing best;
-  for (unsigned seed = 1; seed <= 2; ++seed) {
-    const auto found = gen::find_pairing(graph, {moves, seed, path_weight(kernel.length())});
-    if (seed == 1 || found.cost < best.cost) best = found;
+  std::string lines;
+  std::vector<gen::Pairing> pairings;
+  // Of scalars, vectors of two, and of these vectors of four.
+  const int runs = kernel.bodies == gen::Bodies::kOne ? 2 : 1;
+  for (int run = 0; run < runs; ++run) {
+    const gen::Graph before = gen::packed(graph, pairings, widest);
+    gen::FoundPairing best;
+    for (unsigned seed = 1; seed <= 2; ++seed) {
+      const auto found = gen::find_pairing(before, {moves, seed, path_weight(kernel.length())});
+      if (seed == 1 || found.cost < best.cost) best = found;
+    }
+    if (best.pairing.empty()) break;
+    pairings.push_back(best.pairing);
+    lines += kernel.name + " " + to_string(best.pairing) + "\n";
   }
-  return kernel.name + " " + to_string(best.pairing) + "\n";
+  gen::packed(graph, pairings, widest);
+  return lines;
 }
 
 }  // namespace generate

@@ -8,6 +8,6 @@
 namespace generate {
 
 // The kernel's lines for a target's pairings.txt. Takes seconds; the longer, the more `moves`.
-std::string find_pairings(const gen::Kernel& kernel, int moves);
+std::string find_pairings(const gen::Kernel& kernel, int moves, const gen::MoveSet& widest);
 
 }  // namespace generate

@@ -10,6 +10,8 @@
 #include "gen/expr.h"
 #include "gen/interpret.h"
 #include "gen/moves.h"
+#include "gen/pack.h"
+#include "gen/pack_search.h"
 #include "gen/precision.h"
 #include "gen/rewrite.h"
 #include "gen/schedule.h"
@@ -275,6 +277,122 @@ TEST(Schedule, OrdersEveryOperationOnceBehindItsOperands) {
   for (const char* name : {"", "bisect", "bisect x", "live 1 ", "depth 0"}) {
     EXPECT_THROW(gen::parse_order(name), std::invalid_argument) << name;
   }
+}
+
+// Scalars of the kinds that real kernels have: (x0 + x1, x2 - x3) times constants, scaled, the
+// second one's negative taken from zero.
+Graph butterflies(bool subtract_second = true) {
+  Graph graph(Precision::kDouble);
+  const Value sum = graph.add(graph.input(0), graph.input(1));
+  const Value x2 = graph.input(2), x3 = graph.input(3);
+  const Value difference = subtract_second ? graph.sub(x2, x3) : graph.sub(x3, x2);
+  const Value turned = graph.mul(gen::cos_of_turn(1, 9), sum);
+  const Value other = graph.mul(gen::sin_of_turn(1, 7), difference);
+  graph.output(0, graph.scale(turned));
+  graph.output(1, graph.settle_sign(-graph.scale(other)));
+  return gen::number_from_outputs(graph);
+}
+
+gen::Pairing butterflies_pairing(const Graph& graph) {
+  std::map<Op, std::vector<NodeId>> of_op;
+  for (NodeId id = 0; id < graph.size(); ++id) {
+    of_op[graph[id].op == Op::kSub ? Op::kAdd : graph[id].op].push_back(id);
+  }
+  const auto pair = [&](Op op) { return gen::Pair{of_op[op][0], of_op[op][1]}; };
+  return {pair(Op::kAdd),
+          pair(Op::kMul),
+          pair(Op::kScale),
+          {gen::kIdentity + of_op[Op::kScale][0], of_op[Op::kFromZero][0]}};
+}
+
+TEST(Pack, GivesTheSameBitsSideBySide) {
+  const Graph graph = butterflies();
+  const Graph packed = gen::pack(graph, butterflies_pairing(graph), gen::sse_moves());
+  EXPECT_NO_THROW(gen::prove_equal(graph, packed));
+  for (const Op op : {Op::kMul, Op::kScale, Op::kFromZero, Op::kSub, Op::kFlipSigns}) {
+    EXPECT_EQ(count_nodes(packed, op), op == Op::kMul || op == Op::kScale);
+  }
+  for (const double zero : {0.0, -0.0}) {
+    for (const std::vector<double>& source : {random_source(4), {zero, zero, zero, -zero}}) {
+      const auto expected = gen::interpret(graph, source, 0.3);
+      const auto result = gen::interpret(packed, source, 0.3);
+      for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(result[i], expected[i]);
+        EXPECT_EQ(std::signbit(result[i]), std::signbit(expected[i]));
+      }
+    }
+  }
+  EXPECT_EQ(gen::parse_pairing("12+40 14-3*2"), (gen::Pairing{{12, 52}, {14, 11}, {15, 12}}));
+  EXPECT_EQ(gen::to_string({{14, 11}, {12, 52}, {15, 12}}), "12+40 14-3*2");
+}
+
+TEST(Pack, RefusesPairingsThatDoNotFit) {
+  const Graph graph = butterflies();
+  const gen::Pairing good = butterflies_pairing(graph);
+  const auto refused = [&](gen::Pairing pairing) {
+    EXPECT_THROW(gen::pack(graph, pairing, gen::sse_moves()), std::invalid_argument);
+  };
+  refused({{good[0].low, good[1].high}});           // a sum beside a product
+  refused({good[0], {good[0].high, good[0].low}});  // paired twice
+  refused({{0, graph.size()}});
+  refused({{good[0].low, good[0].low}});
+
+  // Each sum reads the other one's partner: a circle, and a sum beside one that it depends on.
+  Graph crossed(Precision::kDouble);
+  const Value a = crossed.add(crossed.input(0), crossed.input(1));
+  const Value b = crossed.add(crossed.input(2), crossed.input(3));
+  const Value after_a = crossed.add(a, crossed.input(2));
+  const Value after_b = crossed.add(b, crossed.input(0));
+  crossed.output(0, after_a);
+  crossed.output(1, after_b);
+  EXPECT_NO_THROW(
+      gen::pack(crossed, {{a.node, b.node}, {after_a.node, after_b.node}}, gen::sse_moves()));
+  for (const gen::Pairing& pairing : std::vector<gen::Pairing>{
+           {{a.node, after_b.node}, {b.node, after_a.node}}, {{a.node, after_a.node}}}) {
+    EXPECT_THROW(gen::pack(crossed, pairing, gen::sse_moves()), std::invalid_argument);
+  }
+  for (const char* text : {"x", "1", "1+", "1+2*", "1+2x"}) {
+    EXPECT_THROW(gen::parse_pairing(text), std::invalid_argument) << text;
+  }
+}
+
+TEST(Pack, IsProvedAndAWrongLaneIsFound) {
+  const Graph graph = butterflies();
+  EXPECT_THROW(gen::prove_equal(graph, butterflies(false)), std::logic_error) << "b - a for a - b";
+  // Two lanes exchanged; and the second output written as the first.
+  const Graph packed = gen::pack(graph, butterflies_pairing(graph), gen::sse_moves());
+  for (const auto& [first, second] : {std::pair(1, 0), std::pair(0, 0)}) {
+    Graph wrong = gen::rebuild(packed, [&](Graph& copy, NodeId id, const gen::NewValues& values) {
+      const Value value = gen::copy_node(packed, id, copy, values);
+      if (packed[id].op != Op::kMul) return value;
+      return copy.lanes({{value.node, first}, {value.node, second}});
+    });
+    EXPECT_THROW(gen::prove_equal(graph, wrong), std::logic_error);
+  }
+  // The negative of a sum is no sum of negatives: both may be zeros.
+  Graph sum(Precision::kDouble), negatives(Precision::kDouble);
+  sum.output(0, -sum.add(sum.input(0), sum.input(1)));
+  const Value x = negatives.flip_signs(negatives.input(0), 1);
+  negatives.output(0, negatives.sub(negatives.settle_sign(x), negatives.input(1)));
+  EXPECT_THROW(gen::prove_equal(sum, negatives), std::logic_error);
+}
+
+TEST(PairingSearch, HalvesWhatHasTwoEqualHalves) {
+  Graph graph(Precision::kDouble);
+  for (int half = 0; half < 2; ++half) {
+    Value value = graph.input(half);
+    for (int i = 1; i < 8; ++i) {
+      value = graph.sub(graph.mul(gen::cos_of_turn(i, 17), value), graph.input(2 * i + half));
+    }
+    graph.output(half, graph.scale(value));
+  }
+  graph = gen::number_from_outputs(graph);
+  const gen::FoundPairing found = gen::find_pairing(graph, {3000, 1, 10});
+  EXPECT_EQ(found.pairing.size(), 7u + 7u + 1u + 1u) << "the sign that products leave is last";
+  EXPECT_EQ(gen::find_pairing(graph, {3000, 1, 10}).pairing, found.pairing);
+  const Graph packed = gen::pack(graph, found.pairing, gen::sse_moves());
+  EXPECT_NO_THROW(gen::prove_equal(graph, packed));
+  EXPECT_EQ(gen::count_vector_operations(packed).moves, 0) << "loads stand where they are wanted";
 }
 
 }  // namespace
