@@ -1,13 +1,4 @@
 // The widest vectors.
 #pragma once
 
-#include "frame/vector.h"
-
-namespace zulgen {
-
-using WideF = F4;
-using WideD = D2;
-// Whether vectors at any address are as good as aligned ones.
-inline constexpr bool kAnyAddress = false;
-
-}  // namespace zulgen
+#include "frame/sse_width.h"
