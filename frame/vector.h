@@ -38,6 +38,7 @@ inline F4 load_twice(const float* p) {
   typedef double Half __attribute__((may_alias, aligned(4)));
   return _mm_castpd_ps(_mm_set1_pd(*reinterpret_cast<const Half*>(p)));
 }
+inline D2 load_twice(const double* p) { return _mm_loaddup_pd(p); }
 // Two halves from two places. The duplicating load takes no shuffle port, and the merge may run on
 // any of three.
 inline F4 load_halves(const float* low, const float* high) {

@@ -89,6 +89,7 @@ std::optional<Move> pair_of(const Graph& graph, const Node& node) {
   if (is_memory(graph, low) && is_memory(graph, high)) {
     return Move{"load_lanes", {}, {graph[low.node].element, graph[high.node].element}};
   }
+  if (low.node == high.node && graph[low.node].lane_count == 1) return Move{"allF2", {low.node}, {}};
   if (low.node == high.node) {
     const bool in_place = low.index == 0 && high.index == 1;
     return Move{with_indices("shuffle", {low.index, high.index, low.index, high.index}),

@@ -20,7 +20,7 @@ strangers() {
       logic = "(andn?|x?or)p[sd]|p(andn?|x?or)|ps[rl]l(w|d|q|dq)|psra[wd]|pcmp(eq|gt)[bwd]|" \
         "cmp[a-z]*(s[sd]|p[sd])|u?comis[sd]"
       scalar = "(add|sub|mul|div|sqrt|min|max)s[sd]|cvt(ss2sd|sd2ss|t?s[sd]2si|si2s[sd][lq]?)"
-      packed = "(add|sub|mul|div)p[sd]|p(add|sub)[bwdq]|cvt(ps2pd|pd2ps|dq2p[sd]|t?p[sd]2dq)"
+      packed = "(add|sub|mul|div|addsub)p[sd]|p(add|sub)[bwdq]|cvt(ps2pd|pd2ps|dq2p[sd]|t?p[sd]2dq)"
       all_known = "^(" moves "|" logic "|" scalar "|" packed ")$"
       is_packed = "^(" packed ")$"
       is_later = "^(v|popcnt|[lt]zcnt|andn|bextr|bls|bzhi|pdep|pext|rorx|sarx|sh[lr]x|mulx|" \
