@@ -1,7 +1,8 @@
 #!/bin/sh
-# Measures kernels of a target under many orders of their statements, and writes the fastest into its
-# table where it is faster than the order that stands there by more than 1 %. Prints a line a kernel:
-# name, best order, its cycles, those of the order that stood there.
+# Measures kernels of a target under many orders of their statements, in their own vectors and in those
+# twice and four times as wide that its pairings.txt allows, and writes the fastest form into its table
+# where it is faster than the one that stands there by more than 1 %. Prints a line a kernel: name,
+# best form, its cycles, those of the form that stood there.
 #
 # Usage: bench/tune_orders.sh BUILD_DIR TARGET [NAME...]
 # without names: all kernels of the table. ORDERS may hold the orders to try, one a line.
@@ -21,7 +22,13 @@ architecture=$(echo "$target" | sed 's/-v[0-9]$//')
 [ $# -gt 0 ] || set -- $(sed -n 's/^\(zulg[^ ]*\) .*/\1/p' "$table")
 for name in "$@"; do
   now=$(sed -n "s/^$name  *//p" "$table")
-  { echo "$now"; echo "$ORDERS" | grep -vx "$now"; } >"$work/orders"
+  runs_known=$(cat "$root/targets/$target"/pairings.txt 2>/dev/null | grep -c "^$name " || true)
+  {
+    echo "$ORDERS"
+    for runs in $(seq "$runs_known"); do
+      echo "$ORDERS" | sed "s/\$/ x$((1 << runs))/"
+    done
+  } | grep -vx "$now" | sed "1i$now" >"$work/orders"
   set --
   while read -r order; do set -- "$@" --form "$order"; done <"$work/orders"
   "$build/bin/zulgen-generate" --target "$root/targets/$target" \
