@@ -19,10 +19,13 @@ trap 'rm -rf "$work"' EXIT
 compile=$(sed -n "s|^  \"command\": \"\(.*\) -o [^ ]*zulgen_kernels_$target.dir/generated/.*|\1|p" \
   "$build/compile_commands.json" | head -n 1 | sed 's| -Winvalid-pch -include [^ ]*||')
 architecture=$(echo "$target" | sed 's/-v[0-9]$//')
+pairings=$root/targets/$target/pairings.txt
+[ "$architecture" != "$target" ] || pairings=
 [ $# -gt 0 ] || set -- $(sed -n 's/^\(zulg[^ ]*\) .*/\1/p' "$table")
 for name in "$@"; do
   now=$(sed -n "s/^$name  *//p" "$table")
-  runs_known=$(cat "$root/targets/$target"/pairings.txt 2>/dev/null | grep -c "^$name " || true)
+  runs_known=$(cat "$root/targets/$architecture/pairings.txt" "$pairings" 2>/dev/null |
+    grep -c "^$name " || true)
   {
     echo "$ORDERS"
     for runs in $(seq "$runs_known"); do
@@ -35,7 +38,7 @@ for name in "$@"; do
     --level-of "$root/targets/$architecture" --variants "$name" "$@" >"$work/variants.cpp"
   $compile -shared -nostdlib -o "$work/variants.so" "$work/variants.cpp"
   "$build/bin/zulgen-variants_$architecture" "$work/variants.so" "$name" "$(wc -l <"$work/orders")" |
-    paste -d, "$work/orders" - | grep -v -e '-$' >"$work/times"
+    paste -d, "$work/orders" - | sed '/-$/d' >"$work/times"
   before=$(sed -n "s/^$now,//p" "$work/times")
   best=$(sort -t, -k2 -n "$work/times" | head -n 1)
   echo "$name,$best,$before"

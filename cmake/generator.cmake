@@ -57,7 +57,8 @@ function(zulgen_generate target)
     endforeach()
   endforeach()
   set(headers ${out}/wht_bodies.h ${out}/dct4_32f.h ${out}/dct4_64f.h)
-  file(GLOB tables CONFIGURE_DEPENDS ${folder}/*.txt ${folder}/*.in ${architecture_folder}/*.in)
+  file(GLOB tables CONFIGURE_DEPENDS ${folder}/*.txt ${folder}/*.in ${architecture_folder}/*.in
+    ${architecture_folder}/pairings.txt)
   add_custom_command(
     OUTPUT ${kernels} ${dispatch} ${headers} ${out}/zulgens8.map ${out}/library.txt
     COMMAND zulgen-generate ${arguments}

@@ -49,7 +49,8 @@ void read_lines(const std::string& path, Read read) {
   }
 }
 
-// Lines of a name and a pairing: the first of a name is for the first run, and so on.
+// Lines of a name and a pairing: the first of a name is for the first run, and so on. A level's lines
+// stand behind those of its architecture.
 void read_pairings(const std::string& path, Target& target) {
   read_lines(path, [&](const std::string& line) {
     const std::size_t name_end = std::min(line.find(' '), line.size() - 1);
@@ -86,8 +87,10 @@ void read_forms(const std::string& path, Target& target) {
       return;
     }
     if (target.moves == nullptr) throw std::invalid_argument("no moves before the first row");
-    // A body's name holds a space, and is followed by two as any.
-    const std::size_t name_end = line.find("  "), form = line.find_first_not_of(' ', name_end);
+    // A body's name may hold a space among its template arguments.
+    const std::size_t arguments = line.find('>');
+    const std::size_t name_end = line.find(' ', arguments == std::string::npos ? 0 : arguments);
+    const std::size_t form = line.find_first_not_of(' ', name_end);
     if (form == std::string::npos) throw std::invalid_argument("not a name and a form");
     const std::string name = line.substr(0, name_end);
     if (missing.erase(name) == 0) {
@@ -116,7 +119,12 @@ Target read_target(const std::string& folder, const std::string& architecture_fo
   Target target;
   target.name = std::filesystem::path(folder).filename();
   target.entry = read_file(find("entry.s.in"));
-  if (std::filesystem::exists(find("pairings.txt"))) read_pairings(find("pairings.txt"), target);
+  std::vector<std::string> places = {architecture_folder};
+  if (folder != architecture_folder) places.push_back(folder);
+  for (const std::string& place : places) {
+    const std::string path = place + "/pairings.txt";
+    if (std::filesystem::exists(path)) read_pairings(path, target);
+  }
   read_forms(find("kernels.txt"), target);
   return target;
 }

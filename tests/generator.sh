@@ -34,6 +34,7 @@ expect "struct BaseCase<float, 8>" --target "$target" --print "BaseCase<float, 8
 expect "digraph $name" --dot $name
 expect "KERNEL(${name#zulg}_1," --target "$target" --variants $name --form "live 0" --form "bisect 2"
 expect "^01*$" --arrange zulgDFTInv_CToC_9_32fc
+expect "^zulgHartley_8_64f [0-9]" --pair zulgHartley_8_64f
 expect "^usage" --help
 
 refuse() {  # refuse CODE MESSAGE OPTION...
@@ -68,3 +69,11 @@ edit '$d'
 refuse 1 "kernels.txt: no row of ColumnTransform<D2, 16>" --target "$work/target" --out "$work/out"
 edit '5s/live\|bisect/fast/'
 refuse 1 "kernels.txt:5: not an order" --target "$work/target" --out "$work/out"
+edit 's/^\(zulgHartley_16_64f  *\).*/\1live 0 x8/'
+refuse 1 "kernels.txt:[0-9]*: not an order" --target "$work/target" --out "$work/out"
+edit 's/^\(zulgHartley_16_64f  *\).*/\1live 0 x2/'
+sed '/^zulgHartley_16_64f/d' "$target/pairings.txt" >"$work/target/pairings.txt"
+refuse 1 "no pairing for x2: zulgHartley_16_64f" --target "$work/target" --out "$work/out"
+echo "zulgHartley_16_64f 0+1" >>"$work/target/pairings.txt"
+# shellcheck disable=SC2086
+refuse 1 "zulgHartley_16_64f: the pairing doesn't fit" --target "$work/target" --out "$work/out" $shards
