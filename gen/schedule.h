@@ -1,5 +1,5 @@
-// The order in which a kernel's operations are written down. 32-bit code has eight vector
-// registers, so what matters is how many values are alive at a time.
+// The order in which a kernel's operations are written down. Registers are few, eight in
+// 32-bit code, so what matters is how many values are alive at a time.
 #pragma once
 
 #include <cstdint>
