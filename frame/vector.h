@@ -112,7 +112,7 @@ template <class V>
 void store(void* p, V v) {
   __builtin_memcpy(p, &v, sizeof v);
 }
-inline F2 load_lanes(const float* low, const float* high) { return lanesF2(*low, *high); }
+inline F2 load_lanes(const float* low, const float* high) { return load_floats(low, high); }
 template <int i>
 void store_lane(float* p, F4 v) {
   *p = v[i];
@@ -146,25 +146,15 @@ D2 join_doubles(X x, Y y) {
     return shuffle<i, j>(as_vector(x), as_vector(y));
   }
 }
-template <int i, int j>
-F2 join_floats(F2 x, F2 y) {
-  if constexpr (i == 0 && j == 0) {
-    return unpack_low(x, y);
-  } else {
-    return shuffle<0, 2, 0, 2>(shuffle<i, i, j, j>(x, y), x);
-  }
+inline F2 as_vector(F2 v) { return v; }
+inline F2 as_vector(float v) {
+  F2 result;
+  asm("" : "=x"(result) : "0"(v));
+  return result;
 }
-template <int i, int j>
-F2 join_floats(float x, float y) {
-  return lanesF2(x, y);
-}
-template <int i, int j>
-F2 join_floats(F2 x, float y) {
-  return lanesF2(x[i], y);
-}
-template <int i, int j>
-F2 join_floats(float x, F2 y) {
-  return lanesF2(x, y[j]);
+template <int i, int j, class X, class Y>
+F2 join_floats(X x, Y y) {
+  return two_floats<i, j>(as_vector(x), as_vector(y));
 }
 
 template <int a, int b>
