@@ -39,6 +39,24 @@ VectorOperations count_vector_operations(const Graph& graph) {
   return counts;
 }
 
+int latency(Op op) {
+  switch (op) {
+    case Op::kAdd:
+    case Op::kSub:
+    case Op::kFromZero:
+      return 3;
+    case Op::kMul:
+    case Op::kProduct:
+    case Op::kScale:
+      return 4;
+    case Op::kWiden:
+    case Op::kRound:
+      return 5;
+    default:
+      return 1;
+  }
+}
+
 namespace {
 
 int on_two_ports(const VectorOperations& operations) {

@@ -17,6 +17,11 @@ VectorOperations count_vector_operations(const Graph& graph);
 // The least number of cycles that these operations keep the ports busy.
 double port_bound(const VectorOperations& operations);
 
+// Cycles until the result of an operation can be used. That of a move from one half of 256 bits to
+// the other is longer.
+int latency(Op op);
+inline constexpr int kCrossingLatency = 3;
+
 // For a choice between graphs: of those with equal bounds, the one with fewer operations is
 // cheaper.
 double port_cost(const VectorOperations& operations);

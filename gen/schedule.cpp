@@ -2,33 +2,39 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <stdexcept>
+
+#include "gen/cost.h"
 
 namespace gen {
 
+namespace {
+
+struct Named {
+  std::string_view name;
+  std::vector<int> (*order)(const Dependencies& dag, int variant);
+};
+// By Order::Strategy.
+constexpr Named kStrategies[] = {
+    {"bisect", order_by_bisection}, {"live", order_by_live_values}, {"paced", order_by_pace}};
+
+}  // namespace
+
 Order parse_order(std::string_view text) {
-  Order order;
-  std::string_view rest = text;
-  const auto strip = [&](std::string_view word) {
-    const bool found = rest.starts_with(word);
-    if (found) rest.remove_prefix(word.size());
-    return found;
-  };
-  if (strip("live ")) {
-    order.strategy = Order::Strategy::kLive;
-  } else if (!strip("bisect ")) {
-    throw std::invalid_argument("not an order: " + std::string(text));
+  const std::size_t space = std::min(text.find(' '), text.size());
+  for (int strategy = 0; strategy < static_cast<int>(std::size(kStrategies)); ++strategy) {
+    if (text.substr(0, space) != kStrategies[strategy].name || space == text.size()) continue;
+    Order order = {static_cast<Order::Strategy>(strategy), 0};
+    const auto [end, error] = std::from_chars(text.begin() + space + 1, text.end(), order.variant);
+    if (error == std::errc() && end == text.end() && order.variant >= 0) return order;
   }
-  const auto [end, error] = std::from_chars(rest.begin(), rest.end(), order.variant);
-  if (error != std::errc() || end != rest.end()) {
-    throw std::invalid_argument("not an order: " + std::string(text));
-  }
-  return order;
+  throw std::invalid_argument("not an order: " + std::string(text));
 }
 
 std::string to_string(const Order& order) {
-  const bool live = order.strategy == Order::Strategy::kLive;
-  return (live ? "live " : "bisect ") + std::to_string(order.variant);
+  return std::string(kStrategies[static_cast<int>(order.strategy)].name) + " " +
+         std::to_string(order.variant);
 }
 
 std::uint32_t tie_break(int variant, int item) {
@@ -63,6 +69,7 @@ std::vector<NodeId> schedule(const Graph& graph, const Order& order) {
   dag.users.resize(count);
   dag.loads.resize(count);
   dag.is_output.resize(count);
+  for (NodeId id : dag.operations) dag.latencies.push_back(latency(graph[id].op));
   for (std::size_t i = 0; i < count; ++i) {
     for (NodeId operand : graph.operands(dag.operations[i])) {
       if (position[operand] < 0) {
@@ -77,11 +84,8 @@ std::vector<NodeId> schedule(const Graph& graph, const Order& order) {
     if (position[out.from.node] >= 0) dag.is_output[position[out.from.node]] = true;
   }
   std::vector<NodeId> result;
-  const bool live_values = order.strategy == Order::Strategy::kLive;
-  for (int i : live_values ? order_by_live_values(dag, order.variant)
-                           : order_by_bisection(dag, order.variant)) {
-    result.push_back(dag.operations[i]);
-  }
+  const Named& strategy = kStrategies[static_cast<int>(order.strategy)];
+  for (int i : strategy.order(dag, order.variant)) result.push_back(dag.operations[i]);
   return result;
 }
 

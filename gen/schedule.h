@@ -1,5 +1,6 @@
 // The order in which a kernel's operations are written down. Registers are few, eight in
-// 32-bit code, so what matters is how many values are alive at a time.
+// 32-bit code, so what matters is how many values are alive at a time; in wide vectors, also how
+// long an operation waits for the one before.
 #pragma once
 
 #include <cstdint>
@@ -17,12 +18,13 @@ struct Order {
   enum class Strategy {
     kBisect,  // recursive bisection: halves that share few values, then the halves of these
     kLive,    // greedy: always the operation that changes the number of live values the least
+    kPaced,   // greedy: always one whose operands had time to ripen, while registers last
   };
   Strategy strategy = Strategy::kBisect;
   int variant = 0;
 };
 
-// "bisect 3", "live 0". Throws std::invalid_argument.
+// "bisect 3", "live 0", "paced 14". Throws std::invalid_argument.
 Order parse_order(std::string_view text);
 std::string to_string(const Order& order);
 
@@ -39,11 +41,14 @@ struct Dependencies {
   std::vector<std::vector<int>> operands, users;
   std::vector<std::vector<NodeId>> loads;  // what each operation reads besides
   std::vector<bool> is_output;
+  std::vector<int> latencies;
 };
 
 // The strategies: orders of the positions.
 std::vector<int> order_by_bisection(const Dependencies& dag, int variant);
 std::vector<int> order_by_live_values(const Dependencies& dag, int variant);
+// The variant tells how many operations a cycle there are, how many registers, and breaks ties.
+std::vector<int> order_by_pace(const Dependencies& dag, int variant);
 
 // A number for breaking a tie about `item`; zero in variant 0.
 std::uint32_t tie_break(int variant, int item);

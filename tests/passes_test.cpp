@@ -256,7 +256,7 @@ TEST(Schedule, OrdersEveryOperationOnceBehindItsOperands) {
   std::set<std::vector<NodeId>> orders;
   for (unsigned seed = 0; seed < 10; ++seed) {
     const Graph graph = random_graph(seed);
-    for (const char* name : {"bisect 0", "bisect 5", "live 0", "live 5"}) {
+    for (const char* name : {"bisect 0", "bisect 5", "live 0", "live 5", "paced 0", "paced 25"}) {
       const std::vector<NodeId> order = gen::schedule(graph, gen::parse_order(name));
       EXPECT_EQ(order, gen::schedule(graph, gen::parse_order(name))) << "not deterministic";
       std::set<NodeId> done;
@@ -273,8 +273,8 @@ TEST(Schedule, OrdersEveryOperationOnceBehindItsOperands) {
       orders.insert(order);
     }
   }
-  EXPECT_GT(orders.size(), 30u) << "strategies and variants differ";
-  for (const char* name : {"", "bisect", "bisect x", "live 1 ", "depth 0"}) {
+  EXPECT_GT(orders.size(), 50u) << "strategies and variants differ";
+  for (const char* name : {"", "bisect", "bisect x", "live 1 ", "live -1", "depth 0"}) {
     EXPECT_THROW(gen::parse_order(name), std::invalid_argument) << name;
   }
 }

@@ -64,6 +64,10 @@ const std::vector<Term> kOrders = {
     {"live 2",
      "Greedy: next comes the statement that raises the number of live values the least; 2 is the "
      "variant."},
+    {"paced 14",
+     "Greedy: next comes a statement whose operands have had the time that they take, on the "
+     "longest path to a result, as long as registers last; the variant, 14, tells how many "
+     "statements a cycle and how many registers are reckoned with."},
     {"live 2 x2", "The same in vectors twice as wide as elsewhere."}};
 
 const std::vector<Term> kFigures = {
