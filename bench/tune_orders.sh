@@ -11,7 +11,7 @@ build=$1 target=$2
 shift 2
 root=$(dirname "$(realpath "$0")")/..
 table=$root/targets/$target/kernels.txt
-: "${ORDERS:=$(for i in $(seq 0 31); do echo "bisect $i"; done; for i in $(seq 0 7); do echo "live $i"; done)}"
+: "${ORDERS:=$(for i in $(seq 0 31); do echo "bisect $i"; done; for i in $(seq 0 7); do echo "live $i"; done; for i in $(seq 0 29); do echo "paced $i"; done)}"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 # The compiler's command line for a generated file, up to the names of the files, without the headers
@@ -19,13 +19,13 @@ trap 'rm -rf "$work"' EXIT
 compile=$(sed -n "s|^  \"command\": \"\(.*\) -o [^ ]*zulgen_kernels_$target.dir/generated/.*|\1|p" \
   "$build/compile_commands.json" | head -n 1 | sed 's| -Winvalid-pch -include [^ ]*||')
 architecture=$(echo "$target" | sed 's/-v[0-9]$//')
-pairings=$root/targets/$target/pairings.txt
-[ "$architecture" != "$target" ] || pairings=
 [ $# -gt 0 ] || set -- $(sed -n 's/^\(zulg[^ ]*\) .*/\1/p' "$table")
 for name in "$@"; do
   now=$(sed -n "s/^$name  *//p" "$table")
-  runs_known=$(cat "$root/targets/$architecture/pairings.txt" "$pairings" 2>/dev/null |
-    grep -c "^$name " || true)
+  runs_known=0
+  for lines in "$root/targets/$target/pairings.txt" "$root/targets/$architecture/pairings.txt"; do
+    [ "$runs_known" -gt 0 ] || runs_known=$(cat "$lines" 2>/dev/null | grep -c "^$name " || true)
+  done
   {
     echo "$ORDERS"
     for runs in $(seq "$runs_known"); do

@@ -18,8 +18,9 @@ struct FoundPairing {
   long cost = 0, cost_unpaired = 0;
 };
 
-// Simulated annealing: a move pairs two nodes and lets the pairing grow along what they read and
-// what reads them, over whatever was there. Whole numbers decide, so that a search can be repeated.
+// Simulated annealing with large neighbourhoods: a change pairs two nodes and lets the pairing grow
+// along what they read and what reads them, over whatever was there, or pairs a region anew. Whole
+// numbers decide, so that a search can be repeated.
 FoundPairing find_pairing(const Graph& graph, const PairingSearch& search);
 
 }  // namespace gen

@@ -30,20 +30,18 @@ constexpr const char* kUsage =
                                       a source file of the kernel in many forms, such as "live 3"
                                       or, in vectors twice as wide, "live 3 x2", for measuring;
                                       they are called NAME_0, NAME_1, ...
-       zulgen-generate --pair NAME    the kernel's lines for a target's pairings.txt, after a search
-                                      of some seconds
+       zulgen-generate --target DIR --pair NAME
+                                      the kernel's lines for the target's pairings.txt, after a
+                                      search of seconds to minutes
        zulgen-generate --help         this text
 )";
-
-// Of the search for a pairing: a few seconds for a long kernel.
-constexpr int kSearchMoves = 200000;
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
 struct Options {
-  std::string target, level_of, out, variants, print;
+  std::string target, level_of, out, variants, print, pair;
   generate::Shards shards;
   std::vector<std::string> forms;
 };
@@ -118,10 +116,7 @@ void run(const std::vector<std::string>& arguments) {
   const std::map<std::string, std::function<void(Value)>> settings = {
       {"--recipe", [](Value name) { std::cout << find_kernel(name).recipe << "\n"; }},
       {"--arrange", [](Value name) { print_arrangement(find_kernel(name)); }},
-      {"--pair",
-       [](Value name) {
-         std::cout << generate::find_pairings(find_kernel(name), kSearchMoves, gen::avx2_moves());
-       }},
+      {"--pair", [&](Value name) { options.pair = name; }},
       {"--dot", [](Value name) { std::cout << gen::dot_graph(find_kernel(name)); }},
       {"--print", [&](Value name) { options.print = name; }},
       {"--variants", [&](Value name) { options.variants = name; }},
@@ -139,14 +134,15 @@ void run(const std::vector<std::string>& arguments) {
     if (setting == settings.end()) throw UsageError("what is " + option + "?");
     if (i + 1 == arguments.size()) throw UsageError(option + " wants a value");
     setting->second(arguments[++i]);
-    done = done || option == "--recipe" || option == "--dot" || option == "--arrange" ||
-           option == "--pair";
+    done = done || option == "--recipe" || option == "--dot" || option == "--arrange";
   }
   if (done) return;
   if (!options.variants.empty()) {
     if (options.forms.empty()) throw UsageError("--variants wants a --form");
     std::cout << generate::source_of_variants(read_target(options), find_kernel(options.variants),
                                               options.forms);
+  } else if (!options.pair.empty()) {
+    std::cout << generate::find_pairings(find_kernel(options.pair), *read_target(options).moves);
   } else if (!options.print.empty()) {
     std::cout << source_of(options);
   } else if (!options.out.empty()) {

@@ -7,7 +7,7 @@
 
 namespace generate {
 
-// The kernel's lines for a target's pairings.txt. Takes seconds; the longer, the more `moves`.
-std::string find_pairings(const gen::Kernel& kernel, int moves, const gen::MoveSet& widest);
+// The kernel's lines for the pairings.txt of a target with these moves. Takes seconds to minutes.
+std::string find_pairings(const gen::Kernel& kernel, const gen::MoveSet& moves);
 
 }  // namespace generate

@@ -49,14 +49,17 @@ void read_lines(const std::string& path, Read read) {
   }
 }
 
-// Lines of a name and a pairing: the first of a name is for the first run, and so on. A level's lines
-// stand behind those of its architecture.
+// Lines of a name and a pairing: the first of a name is for the first run, and so on. A level's
+// lines take the place of those of its architecture.
 void read_pairings(const std::string& path, Target& target) {
+  std::map<std::string, std::vector<gen::Pairing>> pairings;
   read_lines(path, [&](const std::string& line) {
     const std::size_t name_end = std::min(line.find(' '), line.size() - 1);
-    target.pairings[line.substr(0, name_end)].push_back(
+    pairings[line.substr(0, name_end)].push_back(
         gen::parse_pairing(std::string_view(line).substr(name_end + 1)));
   });
+  pairings.merge(target.pairings);
+  target.pairings = std::move(pairings);
 }
 
 gen::Form parse_form(const Target& target, const std::string& name, std::string text) {

@@ -15,7 +15,8 @@ struct Target {
   // entry.s.in: the assembly of an entry that takes a length at run time.
   std::string entry;
   // pairings.txt, if there is one: what can go side by side in wider vectors, by kernel, for every
-  // run of the packing pass; those of a level stand behind its architecture's. A real kernel's row, that of its CCS layout, stands for all layouts.
+  // run of the packing pass. A level's lines of a kernel take the place of its architecture's. A
+  // real kernel's row, that of its CCS layout, stands for all layouts.
   std::map<std::string, std::vector<gen::Pairing>> pairings;
   // kernels.txt: how each kernel and each body is written down, by name.
   std::map<std::string, gen::Form> forms;

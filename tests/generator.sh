@@ -34,7 +34,7 @@ expect "struct BaseCase<float, 8>" --target "$target" --print "BaseCase<float, 8
 expect "digraph $name" --dot $name
 expect "KERNEL(${name#zulg}_1," --target "$target" --variants $name --form "live 0" --form "bisect 2"
 expect "^01*$" --arrange zulgDFTInv_CToC_9_32fc
-expect "^zulgHartley_8_64f [0-9]" --pair zulgHartley_8_64f
+expect "^zulgHartley_8_64f [0-9]" --target "$target" --pair zulgHartley_8_64f
 expect "^usage" --help
 
 refuse() {  # refuse CODE MESSAGE OPTION...
@@ -67,7 +67,7 @@ edit '3p'
 refuse 1 "kernels.txt:4: no kernel, or a second row" --target "$work/target" --out "$work/out"
 edit '$d'
 refuse 1 "kernels.txt: no row of ColumnTransform<D2, 16>" --target "$work/target" --out "$work/out"
-edit '5s/live\|bisect/fast/'
+edit '5s/live\|bisect\|paced/fast/'
 refuse 1 "kernels.txt:5: not an order" --target "$work/target" --out "$work/out"
 edit 's/^\(zulgHartley_16_64f  *\).*/\1live 0 x8/'
 refuse 1 "kernels.txt:[0-9]*: not an order" --target "$work/target" --out "$work/out"
