@@ -33,9 +33,9 @@ std::vector<double> double_by_hand(const Tree& tree, const std::vector<double>& 
   const int n = tree.length;
   std::vector<Real<double>> parts[2];
   for (int i = 0; i < 2 * n; ++i) parts[i % 2].push_back({source[i]});
-  const bool short_five = n == 10 || n == 50 || n == 60;
-  const auto re = halves(tree, parts[0], 1, short_five, kNobody);
-  const auto im = halves(tree, parts[1], 1, short_five, kNobody);
+  const Form form = n == 10 || n == 50 || n == 60 ? Form::kShortFive : Form::kFirstSampleFirst;
+  const auto re = halves(tree, parts[0], 1, form, kNobody);
+  const auto im = halves(tree, parts[1], 1, form, kNobody);
   Sums<Sample<Real<double>>> sums;
   for (int k = 0; 2 * k <= n; ++k) {
     sums.p.push_back({re.p[k], im.p[k]});

@@ -2,8 +2,6 @@
 // put together of two of them.
 #include <gtest/gtest.h>
 
-#include <numeric>
-
 #include "tests/graph_runs.h"
 #include "tests/scalar_model.h"
 
@@ -24,49 +22,6 @@ template <class R>
 std::vector<R> real(const Values& x) {
   std::vector<R> y;
   for (const double v : x) y.push_back({v});
-  return y;
-}
-
-// Inner transforms of length q on p rows, then outer ones over their bins; coprime, or with
-// rotations in between.
-Sums<Real<double>> two_stages(int p, int q, const std::vector<Real<double>>& x) {
-  using R = Real<double>;
-  const int n = p * q;
-  const bool coprime = std::gcd(p, q) == 1;
-  std::vector<Sums<R>> rows;
-  for (int r = 0; r < p; ++r) {
-    std::vector<R> row;
-    for (int t = 0; t < q; ++t) row.push_back(x[((coprime ? q : 1) * r + p * t) % n]);
-    rows.push_back(leaf(row, Order::kFirstSampleLast));
-  }
-  Sums<R> y = {std::vector<R>(n / 2 + 1), std::vector<R>(n / 2 + 1)};
-  const auto set = [&](int a, int b, R cosine_sum, R sine_sum) {
-    int k = b + q * a;
-    for (k = coprime ? b : k; coprime && k % p != a; k += q) {
-    }
-    y.p[std::min(k, n - k)] = cosine_sum;
-    y.q[std::min(k, n - k)] = 2 * k < n ? sine_sum : R() - sine_sum;
-  };
-  for (int b = 0; 2 * b <= q; ++b) {
-    std::vector<R> bin;
-    std::vector<Sample<R>> z;
-    for (int r = 0; r < p; ++r) {
-      bin.push_back(rows[r].p[b]);
-      z.push_back({rows[r].p[b], R() - rows[r].q[b]});
-      if (!coprime) z.back() = rotate(z.back(), -r * b, n);
-    }
-    if (b == 0 || (2 * b == q && coprime)) {
-      const Sums<R> outer = leaf(bin, Order::kFirstSampleLast);
-      for (int a = 0; 2 * a <= p; ++a) set(a, b, outer.p[a], outer.q[a]);
-    } else if (2 * b == q) {
-      const R t = cosine(1, 8) * (bin[1] - bin[3]), w = cosine(1, 8) * (bin[1] + bin[3]);
-      set(0, b, bin[0] + t, bin[2] + w);
-      set(1, b, bin[0] - t, w - bin[2]);
-    } else {
-      const auto outer = whole(networks::parse_tree(std::to_string(p)), z, 1, kNobody);
-      for (int a = 0; a < p; ++a) set(a, b, outer[a].re, R() - outer[a].im);
-    }
-  }
   return y;
 }
 
@@ -96,7 +51,7 @@ void expect_leaves(const std::string& type) {
     const T s = static_cast<T>(1 / std::sqrt(n));
     const std::string end = "_" + std::to_string(n) + "_" + type;
     const Values x = input("zulgDFTFwd_RToPack" + end);
-    const auto y = leaf(real<Wide<T>>(x), Order::kFirstSampleLast);
+    const auto y = leaf(real<Wide<T>>(x), Form::kFirstSampleLast);
     expect_run("zulgDFTFwd_RToPack" + end, x, pack<T>(y, n, s));
     Values h(n);
     for (int k = 0; 2 * k <= n; ++k) {
@@ -114,15 +69,14 @@ TEST(RealRoundings, OfForwardLeaves) {
 }
 
 TEST(RealRoundings, OfTwoStages) {
-  const std::pair<int, int> stages[] = {{2, 3},  {2, 5},  {3, 4},  {7, 2},  {5, 3},
-                                        {4, 5},  {3, 7},  {11, 2}, {3, 11}, {5, 7},
-                                        {4, 11}, {5, 11}, {4, 2},  {3, 3},  {5, 5}};
-  for (const auto& [p, q] : stages) {
-    const int n = p * q;
-    const std::string name = "zulgDFTFwd_RToPack_" + std::to_string(n) + "_64f";
+  for (const char* text : {"PFA(3, 2)", "PFA(5, 2)", "PFA(4, 3)", "PFA(2, 7)", "PFA(3, 5)",
+                           "PFA(5, 4)", "PFA(7, 3)", "PFA(2, 11)", "PFA(11, 3)", "PFA(7, 5)",
+                           "PFA(11, 4)", "PFA(11, 5)", "CT(2, 4)", "CT(3, 3)", "CT(5, 5)"}) {
+    const Tree tree = networks::parse_tree(text);
+    const std::string name = "zulgDFTFwd_RToPack_" + std::to_string(tree.length) + "_64f";
     const Values x = input(name);
-    const auto y = two_stages(p, q, real<Real<double>>(x));
-    expect_run(name, x, pack<double>(y, n, 1 / std::sqrt(n)));
+    const auto y = halves(tree, real<Real<double>>(x), 1, Form::kFirstSampleLast, kNobody);
+    expect_run(name, x, pack<double>(y, tree.length, 1 / std::sqrt(tree.length)));
   }
 }
 

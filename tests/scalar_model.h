@@ -63,11 +63,15 @@ struct Sums {
   std::vector<V> p, q;
 };
 
-enum class Order { kFirstSampleFirst, kFirstSampleLast };  // where x[0] enters X[0]
+enum class Form {
+  kFirstSampleFirst,
+  kFirstSampleLast,  // x[0] is added at the end of X[0]
+  kShortFive         // length 5 has fewer products
+};
 
 // Lengths 2, 4, and odd primes by their symmetric sums, in ascending order.
 template <class V>
-Sums<V> leaf(const std::vector<V>& x, Order order, bool short_five = false) {
+Sums<V> leaf(const std::vector<V>& x, Form form) {
   const int n = static_cast<int>(x.size()), h = (n - 1) / 2;
   if (n == 2) return {{x[0] + x[1], x[0] - x[1]}, {V(), V()}};
   if (n == 4) {
@@ -79,14 +83,15 @@ Sums<V> leaf(const std::vector<V>& x, Order order, bool short_five = false) {
     a.push_back(x[k] + x[n - k]);
     b.push_back(x[k] - x[n - k]);
   }
-  if (short_five) {
+  if (n == 5 && form == Form::kShortFive) {
     const V s = a[1] + a[2], m = x[0] - 0.25Q * s, d = sqrtq(5) / 4 * (a[1] - a[2]);
     return {{x[0] + s, m + d, m - d},
             {V(), sine(1, 5) * b[1] + sine(2, 5) * b[2], sine(2, 5) * b[1] - sine(1, 5) * b[2]}};
   }
-  V sum = order == Order::kFirstSampleFirst ? x[0] + a[1] : a[1];
+  const bool is_last = form == Form::kFirstSampleLast;
+  V sum = is_last ? a[1] : x[0] + a[1];
   for (int k = 2; k <= h; ++k) sum = sum + a[k];
-  if (order == Order::kFirstSampleLast) sum = sum + x[0];
+  if (is_last) sum = sum + x[0];
   Sums<V> y = {{sum}, {V()}};
   for (int j = 1; j <= h; ++j) {
     V p = x[0] + cosine(j, n) * a[1], q = sine(j, n) * b[1];
@@ -123,7 +128,7 @@ std::vector<Sample<R>> whole(const Tree& tree, const std::vector<Sample<R>>& x, 
   const int n = tree.length;
   std::vector<Sample<R>> y(n);
   if (tree.kind == Tree::Kind::kLeaf) {
-    const Sums<Sample<R>> sums = leaf(x, Order::kFirstSampleFirst);
+    const Sums<Sample<R>> sums = leaf(x, Form::kFirstSampleFirst);
     for (int k = 0; k < n; ++k) y[k] = join(sums, e * k, n);
     visit(tree, x, y);
     return y;
@@ -148,9 +153,9 @@ std::vector<Sample<R>> whole(const Tree& tree, const std::vector<Sample<R>>& x, 
 }
 
 // A block of real values by its tree, with the same root. Parts of complex values go through blocks
-// of their own and are combined behind them; blocks of 5 are short but in those.
+// of their own, where the first sample is first, and are combined behind them.
 template <class R, class Visit>
-Sums<R> halves(const Tree& tree, const std::vector<R>& x, int e, bool short_five, Visit visit) {
+Sums<R> halves(const Tree& tree, const std::vector<R>& x, int e, Form form, Visit visit) {
   const int n = tree.length;
   Sums<R> y = {std::vector<R>(n / 2 + 1), std::vector<R>(n / 2 + 1)};
   const auto set = [&](int k, R p, R q) {
@@ -159,7 +164,7 @@ Sums<R> halves(const Tree& tree, const std::vector<R>& x, int e, bool short_five
     y.q[std::min(k, n - k)] = 2 * k > n ? R() - q : q;
   };
   if (tree.kind == Tree::Kind::kLeaf) {
-    const Sums<R> natural = leaf(x, Order::kFirstSampleFirst, short_five && n == 5);
+    const Sums<R> natural = leaf(x, form);
     for (int k = 0; 2 * k <= n; ++k) {
       const int f = (e * k % n + n) % n, bin = std::min(f, n - f);
       set(k, natural.p[bin], f == bin ? natural.q[bin] : R() - natural.q[bin]);
@@ -173,7 +178,7 @@ Sums<R> halves(const Tree& tree, const std::vector<R>& x, int e, bool short_five
   for (int j2 = 0; j2 < b; ++j2) {
     std::vector<R> column;
     for (int j1 = 0; j1 < a; ++j1) column.push_back(x[(b * j1 + (twiddles ? 1 : a) * j2) % n]);
-    const Sums<R> sums = halves(tree.first(), column, twiddles ? e : e * b, short_five, visit);
+    const Sums<R> sums = halves(tree.first(), column, twiddles ? e : e * b, form, visit);
     for (int k1 = 0; 2 * k1 <= a; ++k1) {
       p[k1].push_back(sums.p[k1]);
       q[k1].push_back(sums.q[k1]);
@@ -185,8 +190,11 @@ Sums<R> halves(const Tree& tree, const std::vector<R>& x, int e, bool short_five
     };
     const int root = twiddles ? e : e * a;
     if (2 * k1 == a && twiddles) {
-      // Four points between the bins: the eighth turns stand in front of the butterflies.
-      const R u = cosine(1, 8) * p[k1][1], v = cosine(1, 8) * p[k1][3], t = u - v, w = u + v;
+      // Four points between the bins: the eighth turns stand before the butterflies or behind them.
+      const __float128 c = cosine(1, 8);
+      const bool behind = form == Form::kFirstSampleLast;
+      const R u = p[k1][1], v = p[k1][3];
+      const R t = behind ? c * (u - v) : c * u - c * v, w = behind ? c * (u + v) : c * u + c * v;
       const R cosine_sums[] = {p[k1][0] + t, p[k1][0] - t};
       const R sine_sums[] = {p[k1][2] + w, w - p[k1][2]};
       for (int k2 = 0; k2 < 2; ++k2) {
@@ -201,12 +209,13 @@ Sums<R> halves(const Tree& tree, const std::vector<R>& x, int e, bool short_five
       p[k1][j2] = z.re;
       q[k1][j2] = z.im;
     }
-    const Sums<R> pp = halves(tree.second(), p[k1], root, short_five && is_real, visit);
+    const Form part = is_real ? form : Form::kFirstSampleFirst;
+    const Sums<R> pp = halves(tree.second(), p[k1], root, part, visit);
     if (is_real) {
       for (int k2 = 0; 2 * k2 <= b; ++k2) set_row(k2, pp.p[k2], pp.q[k2]);
       continue;
     }
-    const Sums<R> qq = halves(tree.second(), q[k1], root, false, visit);
+    const Sums<R> qq = halves(tree.second(), q[k1], root, part, visit);
     for (int k2 = 0; 2 * k2 <= b; ++k2) {
       if (k2 == 0 || 2 * k2 == b) {
         set_row(k2, pp.p[k2], qq.p[k2]);

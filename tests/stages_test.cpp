@@ -74,11 +74,12 @@ Block stage_values(const Tree& tree, const Block& x, int e, bool is_single) {
       }
     });
   } else {
-    halves(tree, reals, e, false, [&](const Tree&, const auto& in, const auto& out) {
-      add(in);
-      add(out.p);
-      add(out.q);
-    });
+    halves(tree, reals, e, scalar_model::Form::kFirstSampleFirst,
+           [&](const Tree&, const auto& in, const auto& out) {
+             add(in);
+             add(out.p);
+             add(out.q);
+           });
   }
   return values;
 }
