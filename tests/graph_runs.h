@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <map>
 
 #include "gen/interpret.h"
 #include "generate/manifest.h"
@@ -35,3 +36,13 @@ class GraphRuns {
   gen::Kernel kernel_;
   gen::Graph graph_;
 };
+
+// Of the kernel with this name.
+inline GraphRuns runs_of(const std::string& name) {
+  static const std::map<std::string, gen::Kernel> kernels = [] {
+    std::map<std::string, gen::Kernel> result;
+    for (const gen::Kernel& kernel : generate::all_kernels()) result.emplace(kernel.name, kernel);
+    return result;
+  }();
+  return GraphRuns(kernels.at(name));
+}

@@ -38,33 +38,24 @@ int count_double_scaled(const Graph& graph) {
 }
 
 bool is_forward(const Kernel& kernel) { return kernel.direction == gen::Direction::kForward; }
-bool is_single(const Kernel& kernel) { return kernel.precision == gen::Precision::kSingle; }
 
 TEST(RealCounts, EqualTheTables) {
   const Table forward = read_table("real_forward.csv"), inverse = read_table("real_inverse.csv");
   for (const Kernel& kernel : dft_real::kernels()) {
     const Graph graph = kernel.graph();
     const gen::Counts counts = gen::count_operations(graph);
-    const auto wanted = [&](const Table& table, int column) {
-      return std::stoi(table.at(kernel.length())[column]);
-    };
-    const int double_scaled = count_double_scaled(graph);
-    if (is_forward(kernel)) {
-      EXPECT_EQ(counts.additions, wanted(forward, 1)) << kernel.name;
-      EXPECT_EQ(counts.multiplications, wanted(forward, 2)) << kernel.name;
-      EXPECT_EQ(dft_real::count_sign_flips(graph), wanted(forward, 3)) << kernel.name;
-      if (is_single(kernel)) {
-        EXPECT_EQ(double_scaled, wanted(forward, 4)) << kernel.name;
-      }
-    } else {
-      const int doublings = count_doublings(graph);
-      EXPECT_EQ(counts.additions, wanted(inverse, 1)) << kernel.name;
-      EXPECT_EQ(counts.multiplications - doublings, wanted(inverse, 2)) << kernel.name;
-      EXPECT_EQ(doublings, wanted(inverse, 3)) << kernel.name;
-      EXPECT_EQ(dft_real::count_sign_flips(graph), 0) << kernel.name;
-      if (is_single(kernel)) {
-        EXPECT_EQ(double_scaled, 0) << kernel.name;
-      }
+    const int flips = dft_real::count_sign_flips(graph), double_scaled = count_double_scaled(graph);
+    const int doublings = is_forward(kernel) ? 0 : count_doublings(graph);
+    const auto& row = (is_forward(kernel) ? forward : inverse).at(kernel.length());
+    const auto wanted = [&](int column) { return std::stoi(row[column]); };
+    EXPECT_EQ(counts.additions, wanted(1)) << kernel.name;
+    EXPECT_EQ(counts.multiplications - doublings, wanted(2)) << kernel.name;
+    EXPECT_EQ(is_forward(kernel) ? flips : doublings, wanted(3)) << kernel.name;
+    if (!is_forward(kernel)) {
+      EXPECT_EQ(flips, 0) << kernel.name;
+    }
+    if (kernel.is_single()) {
+      EXPECT_EQ(double_scaled, is_forward(kernel) ? wanted(4) : 0) << kernel.name;
     }
   }
 }
@@ -112,7 +103,7 @@ TEST(RealCounts, HartleyKernelsEqualTheTable) {
     // Which core it is that has butterflies before or behind it.
     const bool forward = row[0] != "input";
     EXPECT_EQ(applied_blocks(graph, n, forward), wanted_blocks(n, forward)) << kernel.name;
-    if (is_single(kernel)) {
+    if (kernel.is_single()) {
       EXPECT_EQ(count_double_scaled(graph), 0) << kernel.name;
     }
   }
@@ -129,7 +120,7 @@ TEST(RealCounts, ConversionsAreThoseStated) {
     int conversions = count_nodes(graph, [](const gen::Node& node) {
       return node.op == Op::kWiden || node.op == Op::kRound;
     });
-    if (!is_single(kernel)) {
+    if (!kernel.is_single()) {
       EXPECT_EQ(conversions, 0) << kernel.name;
     } else if (is_forward(kernel) && stated.contains(kernel.length())) {
       if (count_double_scaled(graph) > 0) ++conversions;

@@ -13,11 +13,6 @@ using Values = std::vector<double>;
 template <class T>
 using Wide = Real<T, double>;
 
-const gen::Kernel& find(const std::string& name) {
-  static const std::vector<gen::Kernel> all = generate::all_kernels();
-  return *std::find_if(all.begin(), all.end(), [&](const auto& k) { return k.name == name; });
-}
-
 template <class R>
 std::vector<R> real(const Values& x) {
   std::vector<R> y;
@@ -37,11 +32,11 @@ Values pack(const Sums<R>& y, int n, double s) {
 }
 
 void expect_run(const std::string& name, const Values& x, const Values& y) {
-  EXPECT_EQ(GraphRuns(find(name)).run(x, ZULG_SCALE_BY_SQRT_N), y) << name;
+  EXPECT_EQ(runs_of(name).run(x, ZULG_SCALE_BY_SQRT_N), y) << name;
 }
 
 Values input(const std::string& name) {
-  return make_input(GraphRuns(find(name)).shape(), harness::Data::kUniform, 5);
+  return make_input(runs_of(name).shape(), harness::Data::kUniform, 5);
 }
 
 // The leaf's sums of products stay double up to the scaled output.
