@@ -18,26 +18,20 @@ using zulgen::Layout, zulgen::Scale;
 // The C functions of one precision, by length at run time.
 template <class Real>
 struct C;
-template <>
-struct C<float> {
-  using Complex = zulg32fc;
-  static constexpr auto forward = zulgDFTFwd_CToC_32fc, inverse = zulgDFTInv_CToC_32fc;
-  static constexpr auto hartley = zulgHartley_32f;
-  static constexpr std::array real_forward = {zulgDFTFwd_RToCCS_32f, zulgDFTFwd_RToPack_32f,
-                                              zulgDFTFwd_RToPerm_32f};
-  static constexpr std::array real_inverse = {zulgDFTInv_CCSToR_32f, zulgDFTInv_PackToR_32f,
-                                              zulgDFTInv_PermToR_32f};
-};
-template <>
-struct C<double> {
-  using Complex = zulg64fc;
-  static constexpr auto forward = zulgDFTFwd_CToC_64fc, inverse = zulgDFTInv_CToC_64fc;
-  static constexpr auto hartley = zulgHartley_64f;
-  static constexpr std::array real_forward = {zulgDFTFwd_RToCCS_64f, zulgDFTFwd_RToPack_64f,
-                                              zulgDFTFwd_RToPerm_64f};
-  static constexpr std::array real_inverse = {zulgDFTInv_CCSToR_64f, zulgDFTInv_PackToR_64f,
-                                              zulgDFTInv_PermToR_64f};
-};
+#define C_FUNCTIONS(Real, type)                                                          \
+  template <>                                                                            \
+  struct C<Real> {                                                                       \
+    using Complex = zulg##type##c;                                                       \
+    static constexpr auto forward = zulgDFTFwd_CToC_##type##c,                           \
+                          inverse = zulgDFTInv_CToC_##type##c;                           \
+    static constexpr auto hartley = zulgHartley_##type;                                  \
+    static constexpr std::array real_forward = {                                         \
+        zulgDFTFwd_RToCCS_##type, zulgDFTFwd_RToPack_##type, zulgDFTFwd_RToPerm_##type}; \
+    static constexpr std::array real_inverse = {                                         \
+        zulgDFTInv_CCSToR_##type, zulgDFTInv_PackToR_##type, zulgDFTInv_PermToR_##type}; \
+  }
+C_FUNCTIONS(float, 32f);
+C_FUNCTIONS(double, 64f);
 
 template <class Real, std::size_t kSize>
 std::array<Real, kSize> random_numbers() {
@@ -144,31 +138,18 @@ TEST(Spans, RefuseSizesThatDontFit) {
 template <class T, std::size_t N>
 using Fixed = std::array<T, N>&;
 using Point = std::complex<float>;
-template <class Src, class Dst>
-concept Complex = requires(Src x, Dst y) {
-  zulgen::dft_forward(x, y, Scale::kNone);
-};
-template <class Src, class Dst>
-concept Inverse12 = requires(Src x, Dst y) {
-  zulgen::dft_inverse<12>(x, y, Scale::kNone);
-};
-template <class Src, class Dst>
-concept HartleyOf = requires(Src x, Dst y) {
-  zulgen::hartley(x, y, Scale::kNone);
-};
-template <class Src, class Dst>
-concept Walsh = requires(Src x, Dst y) {
-  zulgen::walsh_hadamard(x, y, Scale::kNone);
-};
-template <class Src, class Dst>
-concept Planned = requires(Src x, Dst y, zulgen::Dct4<float> plan) {
-  plan(x, y);
-};
-template <class Src, class Dst>
-concept ToCcs = requires(Src x, Dst y) {
-  zulgen::real_dft_forward<Layout::kCcs>(x, y, Scale::kNone);
-  zulgen::real_dft_inverse<Layout::kCcs>(y, x, Scale::kNone);
-};
+#define CALL(name, ...)                   \
+  template <class Src, class Dst>         \
+  concept name = requires(Src x, Dst y) { \
+    __VA_ARGS__;                          \
+  }
+CALL(Complex, zulgen::dft_forward(x, y, Scale::kNone));
+CALL(Inverse12, zulgen::dft_inverse<12>(x, y, Scale::kNone));
+CALL(HartleyOf, zulgen::hartley(x, y, Scale::kNone));
+CALL(Walsh, zulgen::walsh_hadamard(x, y, Scale::kNone));
+CALL(Planned, std::declval<zulgen::Dct4<float>&>()(x, y));
+CALL(ToCcs, zulgen::real_dft_forward<Layout::kCcs>(x, y, Scale::kNone);
+     zulgen::real_dft_inverse<Layout::kCcs>(y, x, Scale::kNone));
 
 static_assert(Complex<Fixed<Point, 12>, Fixed<Point, 12>> &&
               Complex<Point (&)[2], std::span<Point>>);
