@@ -5,6 +5,7 @@
 #include <cmath>
 #include <complex>
 #include <functional>
+#include <random>
 #include <span>
 #include <stdexcept>
 #include <vector>
@@ -131,6 +132,27 @@ std::vector<T> transform(const std::vector<T>& x) {
     }
   }
   return y;
+}
+
+// What sizing accepts: powers of two, and these plus one; where sums wrap, the sign decides.
+template <class T>
+bool is_accepted(int n) {
+  const bool is_single = sizeof(T) == sizeof(float);
+  const int last = is_single ? 1 << 26 : 1 << 25, wrapped = is_single ? 1 << 30 : 1 << 29;
+  for (int power = 2; power > 0; power = power == 1 << 30 ? 0 : 2 * power) {
+    const bool is_one_more = n == power + 1 && n >= (is_single ? 33 : 9);
+    if (n == power || is_one_more) return power <= last || power >= wrapped;
+  }
+  return false;
+}
+
+template <class T>
+std::vector<T> random_samples(int n, int seed = 1) {
+  std::mt19937 random(n + 977 * seed);
+  std::uniform_real_distribution<T> uniform(-1, 1);
+  std::vector<T> x(n);
+  for (T& sample : x) sample = uniform(random);
+  return x;
 }
 
 // The transform in long double, by a complex DFT of n / 2 points: of the even samples and,

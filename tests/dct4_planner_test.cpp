@@ -1,11 +1,12 @@
-// The planner from inside: the tests of one sample type, behind the planner's own source.
-#pragma once
+// The planner from inside, of the sample type that the build names the source of.
+#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
-#include <vector>
 
 #include "tests/dct4_model.h"
+
+// Whose names have internal linkage.
+#include DCT4_SOURCE
 
 namespace zulgen::DCT4_NAMESPACE {
 namespace {
@@ -43,12 +44,8 @@ std::vector<int> lengths(int last) {
   return result;
 }
 
-std::vector<Sample> random_samples(int count) {
-  std::mt19937 random(count);
-  std::uniform_real_distribution<Sample> uniform(-1, 1);
-  std::vector<Sample> result(count);
-  for (Sample& sample : result) sample = uniform(random);
-  return result;
+std::vector<Sample> random_samples(int n, int seed = 1) {
+  return dct4_model::random_samples<Sample>(n, seed);
 }
 
 TEST(Arena, IsACounter) {
@@ -142,15 +139,7 @@ TEST(Rules, SplitAsStated) {
   EXPECT_EQ(env1__chooseRule(64), 6);
 }
 
-// What sizing accepts: powers of two, and these plus one; where sums wrap, the sign decides.
-bool is_accepted(int n) {
-  const int last = kSingle ? 1 << 26 : 1 << 25, wrapped = kSingle ? 1 << 30 : 1 << 29;
-  for (int power = 2; power > 0; power = power == 1 << 30 ? 0 : 2 * power) {
-    const bool is_one_more = n == power + 1 && n >= (kSingle ? 33 : 9);
-    if (n == power || is_one_more) return power <= last || power >= wrapped;
-  }
-  return false;
-}
+bool is_accepted(int n) { return dct4_model::is_accepted<Sample>(n); }
 
 // 0 if there is none.
 int size_of(int n) {
@@ -230,11 +219,9 @@ TEST(Plan, HasTheObjectsOfItsLength) {
   const auto leaf = at<env4>(second->children, 1);
   const auto columns = at<env5>(first->children, 0);
   const std::vector<int> rules = {root->rule, second->rule, leaf->rule, columns->rule};
+  const std::vector<int> numbers = {root->d, second->m, leaf->groups, columns->N};
   EXPECT_EQ(rules, (std::vector{6, 1, 4, 3}));
-  EXPECT_EQ(root->d, 8);
-  EXPECT_EQ(second->m, 4);
-  EXPECT_EQ(leaf->groups, 4 / L);
-  EXPECT_EQ(columns->N, 8);
+  EXPECT_EQ(numbers, (std::vector{8, 4, 4 / L, 8}));
   EXPECT_EQ(second->twiddle, at<envfCompose>(root->children, 0));
   EXPECT_EQ(leaf->twiddle, at<envfsplit>(second->children, 0));
   EXPECT_EQ(leaf->twiddle->compose, second->twiddle);
@@ -295,13 +282,12 @@ TEST(Plan, ThatFailsIsTakenDown) {
 
 // An env8 by itself, for any r.
 struct SkewStep {
-  SkewStep(int r, int M) : memory(1 << 18), arena{aligned()} {
+  SkewStep(int r, int M) : arena{reinterpret_cast<char*>(memory.data)} {
     lambda = envlambda___init__(new_object<envlambda>(&arena), &arena, r * M, r);
     step = env8___init__(new_object<env8>(&arena), &arena, r, 4096, 32, r * M, lambda);
     EXPECT_EQ(env8_plan(step), ZULG_OK);
   }
-  char* aligned() { return memory.data() + (64 - reinterpret_cast<uintptr_t>(memory.data()) % 64); }
-  std::vector<char> memory;
+  PlanBlock memory{0, 1 << 18};
   Arena arena;
   envlambda* lambda;
   env8* step;
@@ -379,9 +365,8 @@ template <int r>
 void check_skew_sums() {
   const int M = 16, row = 2 * W;
   const SkewStep skew(r, M);
-  const std::vector<Sample> x = random_samples(r * M * W);
   alignas(16) Sample in[r * M * W], out[r * M * row];
-  std::copy(x.begin(), x.end(), in);
+  std::ranges::copy(random_samples(r * M * W), in);
   EXPECT_EQ(env8_compute(skew.step, out, row, in), ZULG_OK);
   for (int q = 0; q < M * r / 2; ++q) {
     const bool conjugated = q % M >= M / 2;
@@ -400,11 +385,10 @@ void check_skew_sums() {
 
 template <int d>
 void check_second_stages() {
-  const int groups = 2, m = groups * L, n = 2 * m * d;
-  const std::vector<Sample> x = random_samples(n), table = random_samples(n);
-  alignas(16) Sample rows[2 * d * groups * L], pairs[2 * d * groups * L], y[2 * d * groups * L];
-  std::copy(x.begin(), x.end(), rows);
-  std::copy(table.begin(), table.end(), pairs);
+  constexpr int groups = 2, m = groups * L, n = 2 * m * d;
+  alignas(16) Sample rows[n], pairs[n], y[n];
+  std::ranges::copy(random_samples(n), rows);
+  std::ranges::copy(random_samples(n, 2), pairs);
   env4 step = {};
   step.rule = env4__chooseRule(d);
   step.table = pairs;
@@ -458,20 +442,22 @@ TEST(Transform, NoticesAPlanThatWasOverwritten) {
   Spec* const spec = reinterpret_cast<Spec*>(root);
   const std::vector<Sample> x(64, 1), before(64, 3);
   std::vector<Sample> y = before;
+  const auto expect_nothing_done = [&](zulgResult result) {
+    EXPECT_EQ(DCT4_ENTRY()(x.data(), y.data(), spec), result);
+    EXPECT_EQ(y, before);
+  };
   for (int rule : {-1, 0, 7}) {
     root->rule = rule;
-    EXPECT_EQ(DCT4_ENTRY()(x.data(), y.data(), spec), ZULG_ERR_CONTEXT);
-    EXPECT_EQ(y, before);
+    expect_nothing_done(ZULG_ERR_CONTEXT);
   }
   root->rule = 6;
   // Below the root a half is left out, and nobody is told.
-  at<env2>(root->stage2, 0)->rule = 0;
-  EXPECT_EQ(DCT4_ENTRY()(x.data(), y.data(), spec), ZULG_OK);
-  EXPECT_EQ(y, before);
-  at<env2>(root->stage2, 0)->rule = 1;
-  at<env4>(at<env2>(root->stage2, 0)->steps, 0)->rule = 0;
-  EXPECT_EQ(DCT4_ENTRY()(x.data(), y.data(), spec), ZULG_OK);
-  EXPECT_EQ(y, before);
+  env2* const second = at<env2>(root->stage2, 0);
+  second->rule = 0;
+  expect_nothing_done(ZULG_OK);
+  second->rule = 1;
+  at<env4>(second->steps, 0)->rule = 0;
+  expect_nothing_done(ZULG_OK);
 }
 
 }  // namespace
