@@ -43,6 +43,16 @@ std::vector<double> random_source(int size, unsigned seed = 1) {
   return source;
 }
 
+// Scaled by 0.3.
+void expect_same_bits(const Graph& graph, const Graph& other, const std::vector<double>& source) {
+  const auto expected = gen::interpret(graph, source, 0.3);
+  const auto result = gen::interpret(other, source, 0.3);
+  ASSERT_EQ(result, expected);
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(std::signbit(result[i]), std::signbit(expected[i])) << "a zero of the other sign";
+  }
+}
+
 // Vectors v0, v1, ... of four elements of the source each, kept from being loads by an addition.
 std::vector<NodeId> computed_vectors(Graph& graph, int count) {
   std::vector<NodeId> result;
@@ -101,13 +111,7 @@ TEST(AbsorbSignFlips, PutsThemIntoConstants) {
   const Graph rewritten = gen::absorb_sign_flips(graph);
   EXPECT_EQ(count_nodes(graph, Op::kFlipSigns), 3);
   EXPECT_EQ(count_nodes(rewritten, Op::kFlipSigns), 1);
-  const std::vector<double> source = random_source(12);
-  const auto expected = gen::interpret(graph, source, 1);
-  const auto result = gen::interpret(rewritten, source, 1);
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(result[i], expected[i]);
-    EXPECT_EQ(std::signbit(result[i]), std::signbit(expected[i])) << "the product by 0 has a sign";
-  }
+  expect_same_bits(graph, rewritten, random_source(12));
 }
 
 // Wanted vectors as strings: "a0b0c0d0" takes lane 0 of vectors a, b, c and d; "--" is open.
@@ -126,8 +130,7 @@ int moves_needed(const std::vector<std::string>& wanted) {
     }
   }
   const Graph moved = gen::synthesize_shuffles(gen::load_vectors(graph, 16));
-  const std::vector<double> source = random_source(16);
-  EXPECT_EQ(gen::interpret(moved, source, 1), gen::interpret(graph, source, 1));
+  expect_same_bits(graph, moved, random_source(16));
   for (NodeId id = 0; id < moved.size(); ++id) {
     EXPECT_TRUE(moved[id].op != Op::kLanes || gen::sse_moves().single_move(moved, id));
   }
@@ -156,7 +159,6 @@ TEST(Moves, NeverLoadBehindTheSource) {
                                     {graph.input(2 * partner + 1).node, 0}});
     output_vector(graph, 4 * sample, graph.add(pair, pair));
   }
-  const std::vector<double> source = random_source(10);
   for (const bool by_halves : {false, true}) {
     const Graph loaded = gen::load_vectors(graph, 10, by_halves);
     for (NodeId id = 0; id < loaded.size(); ++id) {
@@ -166,7 +168,7 @@ TEST(Moves, NeverLoadBehindTheSource) {
       for (const int first : move->elements) EXPECT_LE(first + (move->is_whole_load ? 4 : 2), 10);
     }
     EXPECT_EQ(gen::count_vector_operations(loaded).moves == 0, by_halves) << "loads do it all";
-    EXPECT_EQ(gen::interpret(loaded, source, 1), gen::interpret(graph, source, 1));
+    expect_same_bits(graph, loaded, random_source(10));
   }
 }
 
@@ -313,15 +315,9 @@ TEST(Pack, GivesTheSameBitsSideBySide) {
     EXPECT_EQ(count_nodes(packed, op), op == Op::kMul || op == Op::kScale);
   }
   for (const double zero : {0.0, -0.0}) {
-    for (const std::vector<double>& source : {random_source(4), {zero, zero, zero, -zero}}) {
-      const auto expected = gen::interpret(graph, source, 0.3);
-      const auto result = gen::interpret(packed, source, 0.3);
-      for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(result[i], expected[i]);
-        EXPECT_EQ(std::signbit(result[i]), std::signbit(expected[i]));
-      }
-    }
+    expect_same_bits(graph, packed, {zero, zero, zero, -zero});
   }
+  expect_same_bits(graph, packed, random_source(4));
   EXPECT_EQ(gen::parse_pairing("12+40 14-3*2"), (gen::Pairing{{12, 52}, {14, 11}, {15, 12}}));
   EXPECT_EQ(gen::to_string({{14, 11}, {12, 52}, {15, 12}}), "12+40 14-3*2");
 }
