@@ -1,7 +1,6 @@
 // The arithmetic of the DCT-IV's kernels against the table.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 
 #include "dct4/kernels/kernels.h"

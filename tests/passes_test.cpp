@@ -1,7 +1,6 @@
 // The generator's passes, one by one, on graphs small enough to see through.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <random>
 #include <set>
 

@@ -1,20 +1,10 @@
-// The algorithms by themselves, in quad precision, and the trees that the tables give them.
+// The notation of the tables' rows, and what is checked of them.
 #include <gtest/gtest.h>
-#include <quadmath.h>
 
-#include "dft_complex/transform_32fc.h"
-#include "networks/one_sample.h"
-#include "networks/real_dft.h"
+#include "dft_complex/dft_complex.h"
 #include "networks/row_checks.h"
-#include "tests/quad_dft.h"
 
 namespace {
-
-using dft_complex::kRows32fc;
-using dft_complex::kRows64fc;
-using gen::Quad;
-using networks::Complex;
-using networks::Tree;
 
 TEST(Tree, ParsesAndPrints) {
   for (const char* text : {"7", "11r", "CT(4, 2)", "PFA(2, CT(3, 3))", "alt(PFA(5w, 3))", "Zc(9)",

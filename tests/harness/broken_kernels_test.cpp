@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
 #include "convention.h"  // the target's
 #include "tests/harness/checks.h"
