@@ -2,6 +2,7 @@
 // leaves of 2, 3, 4, 5, 7 and 11.
 #include <gtest/gtest.h>
 
+#include "dft_complex/dft_complex.h"
 #include "tests/graph_runs.h"
 #include "tests/scalar_model.h"
 #include "tests/tables.h"
@@ -52,8 +53,7 @@ std::vector<double> double_by_hand(const Tree& tree, const std::vector<double>& 
 TEST(ComplexRoundings, AreThoseLaidDown) {
   const Table table = read_table("complex.csv");
   int checked = 0;
-  for (const gen::Kernel& kernel : generate::all_kernels()) {
-    if (kernel.transform != gen::Transform::kComplexDft) continue;
+  for (const gen::Kernel& kernel : dft_complex::kernels()) {
     const int n = kernel.length(), e = kernel.name.starts_with("zulgDFTFwd") ? 1 : -1;
     const auto row = table.find(n);
     const bool single = kernel.name.ends_with("_32fc"), direct = n == 7 || n == 11;

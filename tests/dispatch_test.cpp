@@ -2,10 +2,10 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <cstring>
-#include <map>
 
 #include "tests/harness/subject.h"
 #include "zulgen.h"
@@ -25,16 +25,7 @@ Function find(const std::string& name) {
   return reinterpret_cast<Function>(function);
 }
 
-const generate::Contents& contents() {
-  static const generate::Contents all = generate::read_contents(LIBRARY_TXT);
-  return all;
-}
-
-std::map<std::string, harness::Shape> kernels_by_name() {
-  std::map<std::string, harness::Shape> result;
-  for (const auto& kernel : contents().kernels) result.emplace(kernel.name, harness::Shape{kernel});
-  return result;
-}
+const generate::Contents contents = generate::read_contents(LIBRARY_TXT);
 
 class DispatchEntry : public testing::TestWithParam<generate::EntryLine> {
  protected:
@@ -44,10 +35,11 @@ class DispatchEntry : public testing::TestWithParam<generate::EntryLine> {
 };
 
 TEST_P(DispatchEntry, ReachesTheKernelOfEveryLength) {
-  const auto kernels = kernels_by_name();
   int length = lowest();
   for (const std::string& name : GetParam().kernels) {
-    const harness::Shape& shape = kernels.at(name);
+    const auto line = std::ranges::find(contents.kernels, name, &generate::KernelLine::name);
+    ASSERT_NE(line, contents.kernels.end()) << name;
+    const harness::Shape shape{*line};
     const auto kernel = find<Kernel>(name);
     for (const std::size_t offset : {0, 1}) {
       // Of doubles, so that a work buffer and a source are aligned as vectors are.
@@ -106,7 +98,7 @@ TEST(ScaleFactors, AreComputedInDouble) {
   EXPECT_EQ(off, 18);
 }
 
-INSTANTIATE_TEST_SUITE_P(Manifest, DispatchEntry, testing::ValuesIn(contents().entries),
+INSTANTIATE_TEST_SUITE_P(Manifest, DispatchEntry, testing::ValuesIn(contents.entries),
                          [](const auto& info) { return info.param.name; });
 
 TEST(Version, IsTheOneRecord) {

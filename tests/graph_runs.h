@@ -19,17 +19,13 @@ class GraphRuns {
 
   // The destination.
   std::vector<double> run(const std::vector<double>& source, zulgScaleFlag flag) const {
-    return gen::interpret(graph_, source, factor(flag));
-  }
-
-  // The factor that the flag selects.
-  double factor(zulgScaleFlag flag) const {
     const double n = kernel_.length();
     const bool by_n =
         (flag == ZULG_SCALE_FWD_BY_N && kernel_.direction != gen::Direction::kInverse) ||
         (flag == ZULG_SCALE_INV_BY_N && kernel_.direction != gen::Direction::kForward);
     const double factor = flag == ZULG_SCALE_BY_SQRT_N ? 1.0 / std::sqrt(n) : by_n ? 1.0 / n : 1.0;
-    return kernel_.is_single() ? static_cast<float>(factor) : factor;
+    return gen::interpret(graph_, source,
+                          kernel_.is_single() ? static_cast<float>(factor) : factor);
   }
 
  private:

@@ -11,11 +11,6 @@ namespace {
 using gen::Quad;
 using Source = std::vector<double>;
 
-// By its fast algorithm: the definition would take too long, and has a test of its own.
-std::vector<Quad> walsh_hadamard(const Source& x) {
-  return networks::walsh_hadamard(std::vector<Quad>(x.begin(), x.end()));
-}
-
 }  // namespace
 
 Reference of(const gen::Kernel& kernel) {
@@ -23,7 +18,12 @@ Reference of(const gen::Kernel& kernel) {
   const bool forward = kernel.direction == gen::Direction::kForward;
   const bool is_complex = kernel.transform == gen::Transform::kComplexDft;
   const bool is_real = kernel.transform == gen::Transform::kRealDft;
-  if (kernel.transform == gen::Transform::kWalshHadamard) return walsh_hadamard;
+  // By its fast algorithm: the definition would take too long, and has a test of its own.
+  if (kernel.transform == gen::Transform::kWalshHadamard) {
+    return [](const Source& x) {
+      return networks::walsh_hadamard(std::vector<Quad>(x.begin(), x.end()));
+    };
+  }
   if (is_real && kernel.layout != gen::Layout::kCcs) {
     throw std::invalid_argument("no definition of " + kernel.name);
   }

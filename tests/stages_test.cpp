@@ -5,7 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "tests/graph_runs.h"
+#include "dft_complex/dft_complex.h"
+#include "gen/interpret.h"
 #include "tests/quad_dft.h"
 #include "tests/sample_sets.h"
 #include "tests/scalar_model.h"
@@ -96,28 +97,21 @@ int exponent_of(const gen::Kernel& kernel) {
   return kernel.name.starts_with("zulgDFTFwd") ? 1 : -1;
 }
 
-const Table& composites() {
-  static const Table table = read_table("complex.csv");
-  return table;
-}
-const Table& primes() {
-  static const Table table = read_table("complex_primes.csv");
-  return table;
-}
+const Table composites = read_table("complex.csv"), primes = read_table("complex_primes.csv");
+
 Tree tree_of(const gen::Kernel& kernel, int length) {
-  return networks::parse_tree(composites().at(length)[kernel.is_single() ? 0 : 3]);
+  return networks::parse_tree(composites.at(length)[kernel.is_single() ? 0 : 3]);
 }
 
 std::vector<gen::Kernel> kernels(const Table& table) {
-  std::vector<gen::Kernel> result = generate::all_kernels();
-  std::erase_if(result, [&](const gen::Kernel& kernel) {
-    return kernel.transform != gen::Transform::kComplexDft || !table.contains(kernel.length());
-  });
+  std::vector<gen::Kernel> result = dft_complex::kernels();
+  std::erase_if(result,
+                [&](const gen::Kernel& kernel) { return !table.contains(kernel.length()); });
   return result;
 }
 
 TEST(Stages, OfCompositeLengths) {
-  for (const gen::Kernel& kernel : kernels(composites())) {
+  for (const gen::Kernel& kernel : kernels(composites)) {
     const Block x = input_of(kernel);
     // The two real sequences are transformed before the direction is chosen.
     const Block values =
@@ -131,9 +125,9 @@ TEST(Stages, OfCompositeLengths) {
 // product Z with the spectrum of the permuted roots. On real data one half of the bins stands for
 // both; at the output side they have the cosine sums and the sine sums.
 TEST(Stages, BehindRadersPermutation) {
-  for (const gen::Kernel& kernel : kernels(primes())) {
+  for (const gen::Kernel& kernel : kernels(primes)) {
     const int p = kernel.length(), n = p - 1, cell = kernel.is_single() ? 0 : 4;
-    if (primes().at(p)[cell].empty()) continue;
+    if (primes.at(p)[cell].empty()) continue;
     const std::vector<int> g = powers(p);
     const Block x = input_of(kernel);
     Block permuted, roots, values, products;
@@ -164,7 +158,7 @@ TEST(Stages, BehindRadersPermutation) {
 // In the chirp form: samples times the chirp, their transform, its product with the chirp's
 // spectrum, and the inverse transform of that; all with the conjugate root in inverse kernels.
 TEST(Stages, OfTheChirpForm) {
-  for (const gen::Kernel& kernel : kernels(primes())) {
+  for (const gen::Kernel& kernel : kernels(primes)) {
     const int n = kernel.length(), length = n == 47 ? 96 : 128, e = exponent_of(kernel);
     if (!kernel.is_single() || (n != 47 && n != 59)) continue;
     const Block x = random_block(n);
@@ -200,8 +194,8 @@ bool has_blocks(const SampleSets& sets, const std::vector<SampleSet>& places,
 }
 
 TEST(Stages, OfPrimeLengthsHaveTheirBlocksInOrder) {
-  for (const gen::Kernel& kernel : kernels(primes())) {
-    const auto& row = primes().at(kernel.length());
+  for (const gen::Kernel& kernel : kernels(primes)) {
+    const auto& row = primes.at(kernel.length());
     const int cell = kernel.is_single() ? 0 : 4;
     if (row[cell].empty()) continue;
     const gen::Graph graph = kernel.graph();
@@ -223,7 +217,7 @@ struct Support {
 };
 
 TEST(Stages, OfPrimeBlocksInCompositeLengths) {
-  for (const gen::Kernel& kernel : kernels(composites())) {
+  for (const gen::Kernel& kernel : kernels(composites)) {
     const int n = kernel.length();
     Tree tree = tree_of(kernel, n);
     // In these the second block takes its samples in natural order.
@@ -235,7 +229,7 @@ TEST(Stages, OfPrimeBlocksInCompositeLengths) {
       if (block.kind != Tree::Kind::kLeaf || block.length < 13) return;
       std::vector<SampleSet> places;
       for (const auto& sample : in) places.push_back(sample.re.set);
-      const auto& row = primes().at(block.length);
+      const auto& row = primes.at(block.length);
       EXPECT_TRUE(has_blocks(sets, permuted(places), row[0]) ||
                   has_blocks(sets, permuted(places), row[4]))
           << kernel.name;
