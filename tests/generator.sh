@@ -3,21 +3,19 @@
 # Usage: generator.sh GENERATOR TARGET_FOLDER
 set -eu
 generate=$1 target=$2
+shift 2
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 
 fail() { echo "$1" >&2; exit 1; }
 
-shards=
 for family in dft_complex_32fc dft_complex_64fc dft_real_32f dft_real_64f hartley_32f hartley_64f wht_32f wht_64f; do
-  shards="$shards --shards $family=3"
+  set -- "$@" --shards $family=3
 done
 mkdir "$work/out"
-# shellcheck disable=SC2086
-"$generate" --target "$target" --out "$work/out" $shards
+"$generate" --target "$target" --out "$work/out" "$@"
 touch -d '1 hour ago' "$work"/out/*
-# shellcheck disable=SC2086
-"$generate" --target "$target" --out "$work/out" $shards
+"$generate" --target "$target" --out "$work/out" "$@"
 [ -z "$(find "$work/out" -type f -mmin -30)" ] || fail "unchanged files were written again"
 
 name=zulgDFTInv_CToC_12_32fc
@@ -53,8 +51,7 @@ refuse 2 "no --target" --out "$work/out"
 refuse 2 "wants a --form" --variants $name
 refuse 1 "not an order: fast" --target "$target" --variants $name --form fast
 refuse 1 "no shards for" --target "$target" --out "$work/out"
-# shellcheck disable=SC2086
-refuse 1 "can't write" --target "$target" --out /nonexistent/directory $shards
+refuse 1 "can't write" --target "$target" --out /nonexistent/directory "$@"
 
 # A target's table of rows.
 cp -r "$target" "$work/target"
@@ -75,5 +72,4 @@ edit 's/^\(zulgHartley_16_64f  *\).*/\1live 0 x2/'
 sed '/^zulgHartley_16_64f/d' "$target/pairings.txt" >"$work/target/pairings.txt"
 refuse 1 "no pairing for x2: zulgHartley_16_64f" --target "$work/target" --out "$work/out"
 echo "zulgHartley_16_64f 0+1" >>"$work/target/pairings.txt"
-# shellcheck disable=SC2086
-refuse 1 "zulgHartley_16_64f: the pairing doesn't fit" --target "$work/target" --out "$work/out" $shards
+refuse 1 "zulgHartley_16_64f: the pairing doesn't fit" --target "$work/target" --out "$work/out" "$@"

@@ -1,7 +1,6 @@
 #!/bin/sh
 # The spectrogram program on good recordings and broken ones.
 # Usage: spectrogram.sh SPECTROGRAM MAKE_WAV
-set -eu
 . "$(dirname "$0")/try.sh"
 spectrogram=$1 make_wav=$2
 

@@ -1,4 +1,6 @@
+#!/bin/sh
 # For the tests of example programs, in a folder of their own, which is gone in the end.
+set -eu
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT
 cd "$work"
