@@ -264,13 +264,9 @@ const std::map<std::string, std::string>& site() {
   return result;
 }
 
-std::set<std::string> matches(const std::string& text, const char* pattern) {
+std::set<std::string> matches(const std::string& text, const std::string& pattern, int group = 1) {
   const std::regex regex(pattern);
-  std::set<std::string> found;
-  for (std::sregex_iterator at(text.begin(), text.end(), regex), end; at != end; ++at) {
-    found.insert((*at)[1]);
-  }
-  return found;
+  return {std::sregex_token_iterator(text.begin(), text.end(), regex, group), {}};
 }
 
 TEST(Site, LeadsNowhereElse) {
@@ -319,9 +315,9 @@ TEST(Site, IsWellFormed) {
 
 TEST(Site, ShowsWhatWasMeasured) {
   const std::string& text = site().at("length-12.html");
-  const std::string row = std::regex_replace(
-      *matches(text, ("<td><code>(" + kMeasured + ".*–.*)</td></tr>").c_str()).begin(),
-      std::regex("(?:<[^>]*>)+"), " ");
+  const std::string row =
+      std::regex_replace(*matches(text, "<td><code>(" + kMeasured + ".*–.*)</td></tr>").begin(),
+                         std::regex("(?:<[^>]*>)+"), " ");
   const std::string none = " n.&#160;m.";
   EXPECT_EQ(row, kMeasured + none + " 98.8" + none + " 200.0 – 2.03" + none + " –");
   EXPECT_NE(text.find(kMeasured + "</code></td><td class=\"n\">96</td><td class=\"n\">16</td>"
@@ -333,15 +329,12 @@ TEST(Site, ShowsWhatWasMeasured) {
 // Everything that a tree or an order is written with is explained.
 TEST(Site, ExplainsItsNotation) {
   const std::string& reading = site().at(kReadingPageName);
-  const std::regex word("[A-Za-z]+(?=\\()|[a-z]+(?= [0-9])|(?:[0-9])[a-z]");
+  const std::string word = "[A-Za-z]+(?=\\()|[a-z]+(?= [0-9])|(?:[0-9])[a-z]";
   std::set<std::string> words;
   for (const auto& [length, entries] : catalogue().by_length) {
     for (const auto& [key, entry] : entries) {
       if (key.first == Transform::kHartley) continue;  // says in words what it is
-      const std::string text = entry.kernel.recipe + " " + entry.written[0].order;
-      for (std::sregex_iterator at(text.begin(), text.end(), word), end; at != end; ++at) {
-        words.insert(at->str());
-      }
+      words.merge(matches(entry.kernel.recipe + " " + entry.written[0].order, word, 0));
     }
   }
   for (const std::string& word : words) {
