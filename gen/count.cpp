@@ -3,16 +3,10 @@
 #include <map>
 #include <set>
 
+#include "gen/scalar.h"
+
 namespace gen {
 namespace {
-
-// A real value told by how it comes about, up to a sign that is kept outside.
-struct Scalar {
-  int id = 0;  // 0 is the value zero
-  bool negative = false;
-  Scalar operator-() const { return {id, !negative}; }
-  friend auto operator<=>(const Scalar&, const Scalar&) = default;
-};
 
 class ScalarExpansion {
  public:

@@ -6,18 +6,12 @@
 #include <stdexcept>
 
 #include "gen/pack.h"
+#include "gen/scalar.h"
 
 namespace gen {
 namespace {
 
-// The sign stands outside where that changes no bit.
-struct Scalar {
-  int id = 0;  // 0 is the value zero
-  bool negative = false;
-  Scalar operator-() const { return {id, !negative}; }
-  friend auto operator<=>(const Scalar&, const Scalar&) = default;
-};
-
+// Signs stay outside of scalars where that changes no bit.
 class Expressions {
  public:
   // Of every output, by its element.
