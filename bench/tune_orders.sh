@@ -11,7 +11,7 @@ build=$1 target=$2
 shift 2
 root=$(dirname "$(realpath "$0")")/..
 table=$root/targets/$target/kernels.txt
-: "${ORDERS:=$(for i in $(seq 0 31); do echo "bisect $i"; done; for i in $(seq 0 7); do echo "live $i"; done; for i in $(seq 0 29); do echo "paced $i"; done)}"
+: "${ORDERS:=$(seq -f "bisect %g" 0 31; seq -f "live %g" 0 7; seq -f "paced %g" 0 29)}"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 # The compiler's command line for a generated file, up to the names of the files, without the headers

@@ -22,6 +22,7 @@ int path_weight(int length) {
 std::string find_pairings(const gen::Kernel& kernel, const gen::MoveSet& moves) {
   const gen::Graph graph = gen::number_from_outputs(
       gen::lowered(kernel.graph(), kernel.source_elements, kernel.loads_halves));
+  // Until its widest vectors are as wide as the target's, twice at the most.
   int bits = 32, runs = 0;
   for (gen::NodeId id = 0; id < graph.size(); ++id) bits = std::max(bits, gen::bits_of(graph[id]));
   while (runs < 2 && bits << (runs + 1) <= moves.vector_bits()) ++runs;
