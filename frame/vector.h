@@ -147,11 +147,9 @@ D2 join_doubles(X x, Y y) {
   }
 }
 inline F2 as_vector(F2 v) { return v; }
-inline F2 as_vector(float v) {
-  F2 result;
-  asm("" : "=x"(result) : "0"(v));
-  return result;
-}
+// With zeros beside it: what else the register holds may be half a double, which as a float could be
+// anything, and raise what flags it likes.
+inline F2 as_vector(float v) { return _mm_set_ss(v); }
 template <int i, int j, class X, class Y>
 F2 join_floats(X x, Y y) {
   return two_floats<i, j>(as_vector(x), as_vector(y));

@@ -132,7 +132,7 @@ void PairingCost::count_signs(int low, int high, int second) {
   const unsigned all = (1u << 2 * x.lanes) - 1, flips = x.flips | y.flips << x.lanes;
   if (flips == 0 || flips == all || flips == (0x55u & all)) return;
   const Place& b = model_.places[second];
-  totals_.blends += b.op != Op::kMul || b.reads != 1 || mates_->mate(second) < 0;
+  totals_.blends += b.op != Op::kMul || b.users.size() != 1 || mates_->mate(second) < 0;
 }
 
 int PairingCost::count_join(int low, int high) {

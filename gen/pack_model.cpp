@@ -47,10 +47,7 @@ PackModel::PackModel(const Graph& graph) : places(2 * graph.size()) {
       pairable.push_back(id);
       of_kind[place.kind].push_back(id);
     }
-    for (const int slot : place.slots) {
-      places[slot].users.push_back(id);
-      ++places[slot].reads;
-    }
+    for (const int slot : place.slots) places[slot].users.push_back(id);
     if (place.is_load && node.op == Op::kLanes) {
       bool run = true;
       for (int lane = 0; lane < node.lane_count; ++lane) {

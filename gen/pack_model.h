@@ -24,7 +24,6 @@ struct PackModel {
     int lanes = 1;
     int element = -1;    // a load: the first element, if they are consecutive
     int stored_at = -1;  // an output: the first element, if they are consecutive
-    int reads = 0;
     std::uint64_t above = 0, below = 0;  // hashes of what it depends on, and of what depends on it
   };
   std::vector<Place> places;
