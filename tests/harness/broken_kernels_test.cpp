@@ -144,6 +144,11 @@ const Broken kBroken[] = {
        correct(x, y, s);
        asm volatile("fld1");
      }>},
+    {"computes on junk", check_flags, dft2<[](auto x, auto y, float s) {
+       correct(x, y, s);
+       volatile float junk = 0;
+       junk = junk / junk;
+     }>},
 };
 
 TEST(Harness, FindsEveryBrokenKernel) {

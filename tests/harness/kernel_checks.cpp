@@ -27,7 +27,8 @@ Findings all_findings(const Subject& subject, const std::string& digest) {
       {"alignment", [&] { return check_alignment(subject); }},
       {"memory", [&] { return check_memory(subject); }},
       {"arguments", [&] { return check_arguments(subject); }},
-      {"calling convention", [&] { return check_calling_convention(subject); }}};
+      {"calling convention", [&] { return check_calling_convention(subject); }},
+      {"flags", [&] { return check_flags(subject); }}};
   Findings all;
   for (const auto& [name, check] : checks) {
     Findings findings;
